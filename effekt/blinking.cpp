@@ -1,0 +1,18 @@
+#include "effekt/blinking.h"
+
+namespace effect {
+
+void Blinking::Blink(BlinkerType const& type, int const& value) {
+    if (type == Invert) {
+        myInverted = value == 1;
+    } else if (type == Strobe) {
+        myBlinkCount = static_cast<int>(static_cast<unsigned int>(value) * 2 + 1);
+    }
+}
+
+void Blinking::SetColor(int color) {
+    myColor = color;
+    myNegativeColor = color == 0 ? 1 : 0;
+}
+
+} // namespace effect

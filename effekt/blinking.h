@@ -1,0 +1,55 @@
+#pragma once
+
+#include "kore/blinkerinterface.h"
+
+#include <GL/gl.h>
+
+namespace effect {
+
+/// The colours and the blink state that every reacting effect has, and the operations on them.
+class Blinking : public kore::BlinkerInterface {
+public:
+    bool BlinkerStarted() final { return myStarted; }
+
+    /// Invert and Strobe; an effect that knows more types adds them.
+    void Blink(BlinkerType const& type, int const& value) override;
+
+    void SetColor(int color) final;
+    void drawColor() final { Issue(Swapped() ? myNegativeColor : myColor); }
+    void drawNegativeColor() final { Issue(Swapped() ? myColor : myNegativeColor); }
+    void DrawSolid(bool draw) final { myDrawSolid = draw; }
+    void DrawWireframe(bool draw) final { myDrawWireframe = draw; }
+
+protected:
+    ~Blinking() = default;
+
+    /// Strobes for one frame more: 2N+1 updates give N frames of swapped colours, each followed by a normal one.
+    void CountDown() {
+        if (myBlinkCount > 0) --myBlinkCount;
+    }
+
+    /// The start of nearly every effect's UpdateLogic: from now on events are heard, and the strobe runs.
+    void UpdateBlink() {
+        myStarted = true;
+        CountDown();
+    }
+
+    int myColor = 1;         ///< grey level of the main colour
+    int myNegativeColor = 0; ///< grey level that contrasts with it
+    int myBlinkCount = 0;    ///< frames of strobe left
+    bool myInverted = false;
+    bool myDrawWireframe = true;
+    bool myDrawSolid = true;
+    bool myStarted = false; ///< updated at least once
+
+private:
+    /// Inversion and a strobe's flash cancel each other.
+    bool Swapped() const { return myInverted != (myBlinkCount != 0 && myBlinkCount % 2 == 0); }
+
+    static void Issue(int level) {
+        auto const g = static_cast<float>(level);
+        glColor3f(g, g, g);
+    }
+};
+
+} // namespace effect

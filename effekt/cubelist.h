@@ -1,0 +1,9 @@
+#pragma once
+
+namespace effect {
+
+/// Compiles a display list of a cube of edge 1 about the origin, as six quads; needs a current OpenGL context.
+/// @return the list's name
+unsigned int compile_cube();
+
+} // namespace effect

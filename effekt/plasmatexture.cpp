@@ -1,0 +1,72 @@
+#include "effekt/plasmatexture.h"
+
+#include "kore/perspective.h"
+
+#include <cmath>
+
+namespace effect {
+
+namespace {
+
+/// Maps a wave from [-1, 1] to 1 to 255.
+unsigned char wave_byte(double wave) { return static_cast<unsigned char>(static_cast<int>(wave * 127 + 128)); }
+
+/// Where a window starts along one side of a table.
+int window_start(double wave, int half) { return static_cast<int>(wave * (half - 1)) + half; }
+
+} // namespace
+
+bool PlasmaTexture::Init(int w, int h) {
+    if (!Texture::Init(w, h)) return false;
+    std::size_t const entries = 4 * static_cast<std::size_t>(size);
+    first_wave = std::make_unique<unsigned char[]>(entries);
+    second_wave = std::make_unique<unsigned char[]>(entries);
+    InitPlasma();
+    return true;
+}
+
+void PlasmaTexture::InitPlasma() {
+    int const table_width = 2 * width;
+    int const table_height = 2 * height;
+    std::size_t i = 0;
+    for (int y = 0; y < table_height; ++y) {
+        for (int x = 0; x < table_width; ++x, ++i) {
+            first_wave[i] = wave_byte(std::sin(std::hypot(x, height - y) / 48));
+            first_wave[i] = 0; // Deliberate: the first wave is switched off; the picture is made of the rings alone
+            int const dx = x - table_width / 2;
+            int const dy = y - table_height / 2;
+            second_wave[i] = wave_byte(std::sin(std::sqrt(static_cast<double>(dy * dy + dx * dx)) / 8));
+        }
+    }
+}
+
+void PlasmaTexture::UpdatePalette(double t) {
+    for (int i = 0; i < 256; ++i) palette[i][0] = wave_byte(std::sin(t / 133 + i * kore::PI / 64));
+}
+
+void PlasmaTexture::RenderTexture(unsigned int t) {
+    int const hw = width / 2;
+    int const hh = height / 2;
+    double const a = t / 16;
+    int const x1 = window_start(std::sin(a / 128), hw);
+    int const x2 = window_start(std::cos(a / -74), hw);
+    int const y1 = window_start(std::cos(a / -113), hh);
+    int const y2 = window_start(std::sin(a / 33), hh);
+    auto o1 = static_cast<std::size_t>(width * y1 * 2 + x1);
+    auto o2 = static_cast<std::size_t>(width * y2 * 2 + x2);
+    auto const row = static_cast<std::size_t>(width);
+
+    UpdatePalette(t);
+    unsigned char* pixel = pixels.get();
+    for (int y = 0; y < height; ++y) {
+        for (std::size_t x = 0; x < row; ++x, ++o1, ++o2) {
+            unsigned int const index = first_wave[o1] + first_wave[o2] + second_wave[o1] + second_wave[o2];
+            *pixel++ = palette[index % 256][0];
+        }
+        // The same column of the next table row: tables are twice as wide as the picture.
+        o1 += row;
+        o2 += row;
+    }
+}
+
+} // namespace effect

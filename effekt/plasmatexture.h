@@ -1,0 +1,34 @@
+#pragma once
+
+#include "effekt/texture.h"
+
+namespace effect {
+
+/// A moving plasma: two windows slide over tables of waves, and a cycling palette colours their sum.
+class PlasmaTexture final : public Texture {
+public:
+    /// Makes the picture and the two wave tables, of twice its width and height each.
+    /// @return true
+    bool Init(int w, int h) override;
+
+    /// Renders the whole picture.
+    /// @param t  time, in steps of 1/500 s
+    void RenderTexture(unsigned int t);
+
+    /// Turns the palette.
+    /// @param t  time, as above
+    void UpdatePalette(double t);
+
+    /// @param index  0 to 255
+    /// @return 3 bytes red, green, blue, of which only the first is ever other than 0
+    unsigned char const* GetPaletteEntry(int index) const { return palette[index]; }
+
+private:
+    void InitPlasma();
+
+    unsigned char palette[256][3] = {};
+    std::unique_ptr<unsigned char[]> first_wave;  ///< 2 height x 2 width bytes, row by row
+    std::unique_ptr<unsigned char[]> second_wave; ///< the same
+};
+
+} // namespace effect

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "effekt/blinking.h"
+#include "kore/ascmodel.h"
+#include "kore/catmullrom.h"
+#include "kore/entity.h"
+
+#include <memory>
+#include <vector>
+
+namespace effect {
+
+/// A wire of 99 small tori threaded along a spline, faces in one grey and lines in the other.
+///
+/// Deliberate: the whole wire is issued between one glBegin and its glEnd. What that draws is the driver's choice. By
+/// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time and
+/// its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws after
+/// the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing.
+class PulseWire final : public kore::Entity, public Blinking {
+public:
+    /// Environment variable; set to anything but "" or "0", it makes the wire issue only the calls that take effect by
+    /// the standard, so that the picture is the standard's on every driver.
+    static constexpr char const* standard_calls_variable = "HARDSILENCE_WIRE";
+
+    /// Loads "torus2.asc" into the library and takes its object "torus2"; where that fails nothing is drawn.
+    /// @param spline  the path, which must hold a point; points added later still count
+    PulseWire(std::shared_ptr<kore::CatmullRom> spline, kore::AscModel_ptr models);
+
+    char const* Name() override { return "PulseWire"; }
+    void UpdateLogic(kore::StateData const&) override { UpdateBlink(); }
+
+    /// Deliberate: draws faces and lines whatever the two drawing flags say.
+    void InternalDraw() override;
+
+    /// Besides Invert and Strobe: Wireframe, which is kept and changes nothing.
+    void Blink(BlinkerType const& type, int const& value) override;
+
+private:
+    static constexpr int samples = 100; ///< along the spline, both ends counted; the last one is not drawn
+
+    void CompileFirstCorners(std::string const& path);
+    void DrawBracketed();
+    void DrawStandard();
+    void DrawTorus(int i);
+
+    std::shared_ptr<kore::CatmullRom> mySpline;
+    /// Deliberate: the samples at construction are kept, and drawing evaluates the spline anew.
+    std::vector<kore::Vector3<float>> myPoints;
+    unsigned int myModel = 0;     ///< display list of the faces
+    unsigned int myWireframe = 0; ///< display list of the edges
+    bool myStandardCalls;
+    unsigned int myFirstCorners = 0; ///< display list of the corners of all faces, without a primitive around them
+};
+
+} // namespace effect

@@ -1,0 +1,34 @@
+#include "effekt/simplemodel.h"
+
+#include "effekt/modellists.h"
+
+namespace effect {
+
+SimpleModel::SimpleModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name) {
+    find_or_load(models, model_name, file_name, myModel, myWireframe, "effekt/simplemodel.cpp",
+                 "effect::SimpleModel::SimpleModel(kore::AscModel_ptr, const string&, const string&)");
+}
+
+void SimpleModel::UpdateLogic(kore::StateData const&) { UpdateBlink(); }
+
+void SimpleModel::InternalDraw() {
+    glPushMatrix();
+    glScalef(myScale.x, myScale.y, myScale.z);
+    if (myDrawSolid) {
+        drawColor();
+        glCallList(myModel);
+    }
+    if (myDrawWireframe) {
+        drawNegativeColor();
+        glCallList(myWireframe);
+    }
+    glPopMatrix();
+}
+
+void SimpleModel::Blink(BlinkerType const& type, int const& value) {
+    Blinking::Blink(type, value);
+    if (type == Wireframe) myDrawWireframe = value == 1;
+    if (type == Solid) myDrawSolid = value == 1;
+}
+
+} // namespace effect

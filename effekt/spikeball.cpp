@@ -1,0 +1,14 @@
+#include "effekt/spikeball.h"
+
+#include "effekt/cubelist.h"
+
+namespace effect {
+
+SpikeBall::SpikeBall() : myCube(compile_cube()) {}
+
+void SpikeBall::InternalDraw() {
+    drawColor();
+    glCallList(myCube);
+}
+
+} // namespace effect

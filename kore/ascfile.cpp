@@ -1,0 +1,157 @@
+#include "kore/ascfile.h"
+
+#include "kore/asclines.h"
+#include "kore/readfile.h"
+
+#include <cstdio>
+#include <cstring>
+#include <new>
+#include <utility>
+
+namespace kore {
+
+namespace {
+
+bool contains(std::string_view line, std::string_view keyword) {
+    return memmem(line.data(), line.size(), keyword.data(), keyword.size()) != nullptr;
+}
+
+/// A line that ends something: empty, or a lone carriage return.
+bool is_short(std::string_view line) { return line.size() < 2; }
+
+/// The text between the quotes of a name line, which ends in a quote and a carriage return.
+std::string_view object_name(std::string_view line) {
+    constexpr std::size_t first = 15; // behind: Named object: "
+    constexpr std::size_t tail = 2;
+    return line.size() > first + tail ? line.substr(first, line.size() - first - tail) : std::string_view();
+}
+
+} // namespace
+
+AscFile::AscFile() : work(static_cast<Work*>(std::calloc(1, sizeof(Work)))) {
+    if (!work) throw std::bad_alloc();
+}
+
+bool AscFile::Open(std::string const& path) {
+    at = 0;
+    at_end = false;
+    return read_file(path, text);
+}
+
+bool AscFile::NextLine(std::string_view& line) {
+    if (at >= text.size()) {
+        at_end = true;
+        return false;
+    }
+    char const* const start = text.data() + at;
+    std::size_t const rest = text.size() - at;
+    auto const* const feed = static_cast<char const*>(std::memchr(start, '\n', rest));
+    std::size_t const length = feed ? static_cast<std::size_t>(feed - start) : rest;
+    line = {start, length};
+    at += length + 1;
+    return true;
+}
+
+AscFile::Result AscFile::Next() {
+    if (at_end) return Result::End;
+    vertex_count = face_count = vertices_read = faces_read = 0;
+
+    Part part = ReadHeader();
+    if (part == Part::Done) part = ReadVertices();
+    if (part == Part::Done) part = ReadFaces();
+    switch (part) {
+    case Part::Done: return Result::Object;
+    case Part::Short: at_end = true; return Result::End;
+    case Part::Fault: at_end = true; return Result::Fault;
+    }
+    return Result::Fault;
+}
+
+AscFile::Part AscFile::ReadHeader() {
+    std::string_view line;
+    while (NextLine(line)) {
+        if (is_short(line)) return Part::Short;
+        if (contains(line, "Named object:")) name = object_name(line);
+        if (contains(line, "Tri-mesh, Vertices")) {
+            std::sscanf(Terminated(line), "Tri-mesh, Vertices: %d Faces: %d", &vertex_count, &face_count);
+            if (vertex_count < 1 || face_count < 1) {
+                Fail("Bad file format");
+                return Part::Fault;
+            }
+            return Part::Done;
+        }
+    }
+    return Part::Done; // the file has ended; the vertices that are missing now will be noticed
+}
+
+AscFile::Part AscFile::ReadVertices() {
+    std::string_view line;
+    while (NextLine(line)) {
+        if (is_short(line)) return Part::Short;
+        if (contains(line, "Vertex list:")) continue;
+        if (contains(line, "Vertex") && !AddVertex(line)) return Part::Fault;
+        if (contains(line, "Face list:")) break;
+    }
+    if (vertices_read == 0 || vertices_read != vertex_count) {
+        Fail("Bad file format, vertex count mismatch.");
+        return Part::Fault;
+    }
+    return Part::Done;
+}
+
+AscFile::Part AscFile::ReadFaces() {
+    std::string_view line;
+    while (NextLine(line) && !is_short(line)) {
+        if (contains(line, "Face") && !AddFace(line)) return Part::Fault;
+    }
+    if (faces_read == 0 || faces_read != face_count) {
+        Fail("Bad file format, face count mismatch. Reported: " + std::to_string(face_count) +
+             " counted: " + std::to_string(faces_read));
+        return Part::Fault;
+    }
+    return Part::Done;
+}
+
+bool AscFile::AddVertex(std::string_view line) {
+    if (vertices_read == max_vertices) {
+        return Fail("Bad file format, more than " + std::to_string(max_vertices) + " vertices.");
+    }
+    if (!parse_plain_vertex(line, vertex)) {
+        int index = 0;
+        std::sscanf(Terminated(line), "Vertex %d: X:%f Y:%f Z:%f", &index, &vertex[0], &vertex[1], &vertex[2]);
+    }
+    std::memcpy(work->vertices[vertices_read], vertex, sizeof vertex);
+    ++vertices_read;
+    return true;
+}
+
+bool AscFile::AddFace(std::string_view line) {
+    if (faces_read == max_faces) return Fail("Bad file format, more than " + std::to_string(max_faces) + " faces.");
+    if (!parse_plain_face(line, face)) {
+        int index = 0;
+        std::sscanf(Terminated(line), "Face %d: A:%d B:%d C:%d AB:%d BC:%d CA:%d", &index, &face[0], &face[1], &face[2],
+                    &face[3], &face[4], &face[5]);
+    }
+    for (int corner = 0; corner < 3; ++corner) {
+        if (face[corner] < 0 || face[corner] >= max_vertices) {
+            return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " +
+                        std::to_string(face[corner]) + ".");
+        }
+        work->faces[faces_read][corner] = face[corner];
+        work->edges[faces_read][corner] = face[corner + 3];
+    }
+    ++faces_read;
+    return true;
+}
+
+bool AscFile::Fail(std::string message) {
+    fault = std::move(message);
+    return false;
+}
+
+char const* AscFile::Terminated(std::string_view line) {
+    buffer.assign(line);
+    return buffer.c_str();
+}
+
+} // namespace kore

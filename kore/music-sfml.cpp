@@ -1,0 +1,72 @@
+#include "kore/music-sfml.h"
+
+#include "kore/report.h"
+#include "kore/sounddevice.h"
+
+#include <SFML/Audio/InputSoundFile.hpp>
+#include <SFML/Audio/Music.hpp>
+#include <iostream>
+#include <utility>
+
+namespace kore {
+
+namespace {
+
+constexpr char const* unit = "kore/music-sfml.cpp";
+constexpr int open_failed_line = 36;
+constexpr int wrong_rate_line = 48;
+
+} // namespace
+
+MusicSFML::MusicSFML() {
+    if (sound_device_available()) {
+        stream = std::make_unique<sf::Music>();
+    } else {
+        std::cerr << "No sound device; the show is silent." << std::endl;
+    }
+}
+
+MusicSFML::~MusicSFML() { Cleanup(); }
+
+bool MusicSFML::Open(std::string const& file, unsigned int& rate) {
+    if (stream) {
+        playable = stream->openFromFile(file);
+        if (playable) rate = stream->getSampleRate();
+        return playable;
+    }
+    sf::InputSoundFile sound;
+    if (!sound.openFromFile(file)) return false;
+    rate = sound.getSampleRate();
+    return true;
+}
+
+bool MusicSFML::LoadFromFile(std::string const& file, int const& frequency) {
+    unsigned int rate = 0;
+    if (!Open(file, rate)) {
+        report_error(unit, open_failed_line, "LoadFromFile", "Failed to open music from file " + file);
+        return true;
+    }
+    if (rate != static_cast<unsigned int>(frequency)) {
+        report_error(unit, wrong_rate_line, "LoadFromFile",
+                     "Requested frequency (" + std::to_string(frequency) + ") differs from audio file frequency (" +
+                         std::to_string(rate) + ").");
+        return true;
+    }
+    return false;
+}
+
+void MusicSFML::SetVisualizer(std::shared_ptr<MusicVisualizer> v) { visualizer = std::move(v); }
+
+void MusicSFML::Play() {
+    if (playable) stream->play();
+}
+
+void MusicSFML::Pause() {
+    if (playable) stream->pause();
+}
+
+void MusicSFML::Cleanup() { visualizer.reset(); }
+
+float MusicSFML::Position() const { return playable ? stream->getPlayingOffset().asSeconds() : 0.0f; }
+
+} // namespace kore

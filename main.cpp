@@ -1,0 +1,293 @@
+#include "main.h"
+
+#include "kore/music-sfml.h"
+#include "kore/report.h"
+#include "runtime/datafolder.h"
+#include "runtime/display.h"
+#include "runtime/frame.h"
+#include "runtime/stopsignal.h"
+#include "show/show.h"
+
+#include <GL/gl.h>
+#include <SFML/System/Clock.hpp>
+#include <iostream>
+#include <sstream>
+#include <utility>
+
+unsigned long video_fullscreen = sf::Style::Fullscreen;
+bool vsync = true;
+int resolution_x = 1024;
+int resolution_y = 768;
+int fps_limit_value = 60;
+unsigned int video_depth = 24;
+unsigned int video_stencil = 2;
+unsigned int video_fsaa_level = 4;
+bool music_enabled = true;
+bool fps_counter = false;
+bool mushroom_mode = false;
+bool quit = false;
+
+namespace {
+
+constexpr char const* window_title = "Hard Silence by Quillon 2012";
+constexpr char const* music_file = "data/rump2.ogg";
+constexpr int music_frequency = 48000; // Hz
+constexpr int last_beat = 9998;        // safety stop, about 75 minutes
+constexpr int largest_window = 32767;  // pixels: what the X protocol can say
+
+constexpr char const* help_text = R"(
+Command line parameters:
+    -width X    Resolution width (4:3)
+    -w          Windowed mode
+    -novsync    Disable vertical sync (enabled by default)
+    -fps        Show frame rate
+    -limit N    Limit frame rate to N frames per second
+    -nolimit    Disable fps limit (60)
+    -mute       Disable music playback
+
+)";
+
+void set_width(std::string const& value) {
+    resolution_x = my_atoi(value);
+    resolution_y = static_cast<int>(static_cast<double>(resolution_x) / 1.3333333333333333);
+    std::cout << "Using resolution " << resolution_x << "x" << resolution_y << std::endl;
+}
+
+struct Option {
+    char const* name;
+    bool takes_value;
+    void (*set)(std::string const& value);
+};
+
+// In the order of checking.
+constexpr Option options[] = {
+    // name      value? what it sets
+    {"-w",       false, [](std::string const&) { video_fullscreen = sf::Style::Close; }        },
+    {"-novsync", false, [](std::string const&) { vsync = false; }                              },
+    {"-fps",     false, [](std::string const&) { fps_counter = true; }                         },
+    {"-nolimit", false, [](std::string const&) { fps_limit_value = 0; }                        },
+    {"-magic",   false, [](std::string const&) { mushroom_mode = true; }                       }, // not in the help
+    {"-mute",    false, [](std::string const&) { music_enabled = false; }                      },
+    {"-nofsaa",  false, [](std::string const&) { video_fsaa_level = 0; }                       }, // not in the help
+    {"-limit",   true,  [](std::string const& value) { fps_limit_value = my_atoi(value); }     },
+    {"-width",   true,  set_width                                                              },
+};
+
+Option const* find_option(std::string const& name) {
+    for (Option const& option : options) {
+        if (name == option.name) return &option;
+    }
+    return nullptr;
+}
+
+struct HeldKey {
+    sf::Keyboard::Key key;
+    std::uint64_t movement;
+};
+
+constexpr HeldKey held_keys[] = {
+    {sf::Keyboard::Z,     movement_z_out      },
+    {sf::Keyboard::A,     movement_z_in       },
+    {sf::Keyboard::Up,    movement_y_up       },
+    {sf::Keyboard::Down,  movement_y_down     },
+    {sf::Keyboard::Right, movement_x_right    },
+    {sf::Keyboard::Left,  movement_x_left     },
+    {sf::Keyboard::S,     movement_rot_y_up   },
+    {sf::Keyboard::F,     movement_rot_y_down },
+    {sf::Keyboard::E,     movement_rot_x_right},
+    {sf::Keyboard::D,     movement_rot_x_left },
+    {sf::Keyboard::X,     movement_rot_z_fw   },
+    {sf::Keyboard::V,     movement_rot_z_bw   },
+};
+
+std::uint64_t movement_of(sf::Keyboard::Key key) {
+    for (HeldKey const& held : held_keys) {
+        if (held.key == key) return held.movement;
+    }
+    return 0;
+}
+
+struct PressedKey {
+    sf::Keyboard::Key key;
+    void (*act)(Controls& controls);
+};
+
+void toggle_pause(Controls& c) {
+    c.pauses.Toggle(c.now);
+    music_play(c.music, !c.pauses.Paused());
+}
+
+constexpr PressedKey pressed_keys[] = {
+    {sf::Keyboard::P, toggle_pause                               },
+    {sf::Keyboard::R, [](Controls& c) { c.view.ResetRotation(); }},
+    {sf::Keyboard::C, [](Controls& c) { c.view.ToggleFree(); }   },
+    {sf::Keyboard::T, [](Controls& c) { c.view.Faster(); }       },
+    {sf::Keyboard::G, [](Controls& c) { c.view.Slower(); }       },
+    {sf::Keyboard::O, [](Controls& c) { c.view.ToggleTarget(); } },
+    {sf::Keyboard::L, [](Controls&) {}                           }, // Deliberate: known, and does nothing
+};
+
+void key_pressed(Controls& controls, sf::Keyboard::Key key) {
+    if (key == sf::Keyboard::Escape) controls.close = true;
+    if (!mushroom_mode) return;
+    for (PressedKey const& pressed : pressed_keys) {
+        if (pressed.key == key) pressed.act(controls);
+    }
+    controls.view.Hold(movement_of(key));
+}
+
+void key_released(Controls& controls, sf::Keyboard::Key key) {
+    if (!mushroom_mode) return;
+    controls.view.Release(movement_of(key));
+    if (key == sf::Keyboard::Period) controls.demo.SkipSceneFw();
+    if (key == sf::Keyboard::Comma) controls.demo.SkipSceneBw();
+}
+
+/// @return false, after a line on standard error, where no window can be opened
+bool window_possible() {
+    if (resolution_x < 1 || resolution_y < 1 || resolution_x > largest_window) {
+        std::cerr << "Cannot open a window of " << resolution_x << "x" << resolution_y << " pixels." << std::endl;
+        return false;
+    }
+    if (!display_available()) {
+        std::cerr << "Cannot open the display. Is DISPLAY set, and an X server running?" << std::endl;
+        return false;
+    }
+    if (video_fullscreen == sf::Style::Fullscreen && sf::VideoMode::getFullscreenModes().empty()) {
+        std::cerr << "This display offers no full-screen modes; the show plays in a window." << std::endl;
+        video_fullscreen = sf::Style::Close;
+    }
+    return true;
+}
+
+} // namespace
+
+int my_atoi(std::string const& s) {
+    std::istringstream stream(s);
+    int value = 0;
+    stream >> value;
+    return value;
+}
+
+std::optional<int> read_command_line(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        std::string const argument = argv[i];
+        if (argument == "-h" || argument == "--help") {
+            std::cout << window_title << '\n' << help_text << std::flush;
+            return 0;
+        }
+        Option const* const option = find_option(argument);
+        if (!option) {
+            std::cout << "Bad command line parameter '" << argument << "'" << std::endl;
+            return 1;
+        }
+        if (option->takes_value && i + 1 == argc) {
+            std::cout << argument << " requires a value" << std::endl;
+            return 1;
+        }
+        option->set(option->takes_value ? argv[++i] : "");
+    }
+    return std::nullopt;
+}
+
+void music_init(std::shared_ptr<kore::Music>& music) {
+    constexpr int report_line = 95;
+    if (!music_enabled) return;
+    if (music->LoadFromFile(music_file, music_frequency)) {
+        kore::report_error("main.cpp", report_line, "music_init",
+                           std::string("Couldn't open music from file ") + music_file);
+    }
+}
+
+void music_play(std::shared_ptr<kore::Music>& music, bool play) {
+    if (!music_enabled || !music->Ready()) return;
+    if (play) {
+        music->Play();
+    } else {
+        music->Pause();
+    }
+}
+
+void frame_counter(float const& now, float& fps) {
+    constexpr int intervals_per_line = 11;
+    static int frames = 0;
+    static float last = 0;
+    static int display = 0;
+    ++frames;
+    float const span = now - last;
+    if (span > 0.1) {
+        fps = static_cast<float>(frames) / span;
+        if (fps_counter && display >= intervals_per_line) {
+            std::cout << window_title << ": " << frames << " frames in " << span << " seconds = " << fps << " fps"
+                      << std::endl;
+            display = 0;
+        }
+        last = now;
+        frames = 0;
+        ++display;
+    }
+}
+
+void handle_event(Controls& controls, sf::Event const& event) {
+    switch (event.type) {
+    case sf::Event::Resized:
+        glViewport(0, 0, static_cast<GLsizei>(event.size.width), static_cast<GLsizei>(event.size.height));
+        break;
+    case sf::Event::Closed: quit = true; break;
+    case sf::Event::KeyPressed: key_pressed(controls, event.key.code); break;
+    case sf::Event::KeyReleased: key_released(controls, event.key.code); break;
+    case sf::Event::LostFocus: controls.view.ReleaseAll(); break; // the releases go to another window
+    default: break;
+    }
+}
+
+void run_show(sf::RenderWindow& window) {
+    float const beat = beat2seconds(beats_per_minute, 4);
+    BeatClock beats(beat);
+    sf::Clock clock;
+    kore::StateData state;
+
+    std::shared_ptr<kore::Music> music = std::make_shared<kore::MusicSFML>();
+    music_init(music);
+    kore::Demo demo(beat);
+    init_demo(demo, music, beat);
+    Controls controls{demo, music, {}, {}};
+    music_play(music, true);
+    clock.restart();
+
+    while (window.isOpen()) {
+        controls.now = clock.getElapsedTime().asSeconds();
+        sf::Event event;
+        while (!controls.close && window.pollEvent(event)) handle_event(controls, event);
+        controls.view.Step();
+        state.time = controls.pauses.ShowTime(controls.now);
+        beats.Count(state);
+        window.setActive(true);
+        draw_frame(demo, state, controls.view);
+        frame_counter(controls.now, state.fps);
+        state.new_beat = false;
+        window.display();
+        // Only now: the rest of Escape's frame needed the context.
+        if (controls.close) window.close();
+        if (state.beat_count > last_beat || quit || stop_requested() || demo.GetFinished()) break;
+    }
+    music->Pause();
+}
+
+int main(int argc, char** argv) {
+    if (auto const status = read_command_line(argc, argv)) return *status;
+    if (!window_possible()) return 1;
+    catch_stop_signals();
+    end_quietly_when_display_is_lost();
+    enter_data_folder(HARDSILENCE_SHARE);
+
+    sf::ContextSettings const settings(video_depth, video_stencil, video_fsaa_level);
+    sf::RenderWindow window(
+        sf::VideoMode(static_cast<unsigned int>(resolution_x), static_cast<unsigned int>(resolution_y), 32),
+        window_title, static_cast<sf::Uint32>(video_fullscreen), settings);
+    init_gl();
+    window.setVerticalSyncEnabled(vsync);
+    window.setFramerateLimit(vsync ? 0 : static_cast<unsigned int>(fps_limit_value));
+    run_show(window);
+    return 0;
+}

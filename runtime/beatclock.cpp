@@ -1,0 +1,26 @@
+#include "runtime/beatclock.h"
+
+float beat2seconds(int bpm, int n) { return static_cast<float>(n) * 60.0f / (static_cast<float>(bpm) * 4.0f); }
+
+void BeatClock::Count(kore::StateData& state) {
+    if (state.time >= last_beat_time + beat_length) {
+        state.beat_count += 1;
+        last_beat_time += beat_length; // exactly one beat, whatever the time is: the grid does not drift
+        state.new_beat = true;
+    }
+}
+
+void PauseClock::Toggle(float now) {
+    paused = !paused;
+    if (paused) {
+        pause_start = now;
+    } else {
+        total_paused += current_pause;
+        current_pause = 0;
+    }
+}
+
+float PauseClock::ShowTime(float now) {
+    if (paused) current_pause = now - pause_start;
+    return now - (total_paused + current_pause);
+}

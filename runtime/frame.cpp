@@ -1,0 +1,30 @@
+#include "runtime/frame.h"
+
+#include "kore/perspective.h"
+
+#include <GL/gl.h>
+
+void init_gl() {
+    glEnable(GL_TEXTURE_2D);
+    glClearDepth(1.0);
+    glClearColor(0, 0, 0, 0);
+    glDepthMask(GL_TRUE);
+    glEnable(GL_DEPTH_TEST);
+    glHint(GL_PERSPECTIVE_CORRECTION_HINT, GL_NICEST);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    glEnable(GL_BLEND);
+    glDisable(GL_CULL_FACE);
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    kore::setPerspective(90.0, 1.0, 1.0, 2000.0);
+    glEnable(GL_COLOR_MATERIAL);
+    glShadeModel(GL_SMOOTH);
+    glMatrixMode(GL_MODELVIEW);
+}
+
+void draw_frame(kore::Demo& demo, kore::StateData const& state, DebugCamera const& view) {
+    glLoadIdentity();
+    if (view.IsFree()) view.Apply();
+    demo.UpdateLogic(state);
+    demo.Draw(!view.IsFree());
+}

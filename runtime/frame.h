@@ -1,0 +1,14 @@
+#pragma once
+
+#include "kore/demo.h"
+#include "runtime/debugcamera.h"
+
+/// Sets the fixed OpenGL state of the show on the current context: blending, depth test, and a frustum of 90 degrees
+/// with the near plane at 1 and the far one at 2000. Deliberate: its aspect is 1, whatever the window's is, so the
+/// picture is stretched. The projection is never changed afterwards.
+void init_gl();
+
+/// Updates and draws one frame on the current context. The whole picture is a function of the demo and the state.
+/// @param state  time and beats of the show
+/// @param view   where it is free, the view that stands in for the scenes' cameras
+void draw_frame(kore::Demo& demo, kore::StateData const& state, DebugCamera const& view);

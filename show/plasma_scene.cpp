@@ -1,0 +1,73 @@
+#include "show/score.h"
+#include "show/show.h"
+
+#include "effekt/simplemodel.h"
+#include "effekt/texturemountain.h"
+
+namespace {
+
+constexpr int length = 32; // beats
+
+constexpr BlinkRow blinks[] = {
+    {0,  Blink::Strobe, 9000}, // longer than the scene
+    {28, Blink::Strobe, 9000},
+    {0,  Blink::Break,  1   }, // Deliberate: nothing here reacts to it
+    {28, Blink::Break,  1   },
+};
+
+struct Title {
+    char const* name;
+    float scale;
+    float depth; // scale along z
+    float y;
+};
+
+constexpr Title titles[] = {
+    {"QUILLONx-title", 0.5f, 0.01f, 15 },
+    {"HARD-title",     30,   1,     0  },
+    {"SILENCE-title",  6.5f, 1,     -11},
+};
+
+std::shared_ptr<effect::SimpleModel> make_title(Title const& title) {
+    auto model = std::make_shared<effect::SimpleModel>(models, title.name, "");
+    model->SetColor(1);
+    model->DrawWireframe(false);
+    model->DrawSolid(true);
+    model->SetScale({title.scale, title.scale, title.depth});
+    model->SetPos({0, title.y, 10});
+    return model;
+}
+
+} // namespace
+
+std::shared_ptr<kore::Scene> plasma_scene(float const& beat) {
+    auto scene = std::make_shared<kore::Scene>("Plasma");
+
+    auto camera = std::make_shared<effect::Camera>();
+    camera->SetPos({0, 0, 31});
+    camera->SetLookPos({0, 0, 0});
+
+    auto blinker = std::make_shared<effect::Blinker>();
+    add_blinks(*blinker, blinks, beat);
+
+    // The ground keeps still: only the titles are given to the blinker.
+    auto background = make_background(0, beat);
+    auto mountain = std::make_shared<effect::TextureMountain>();
+    mountain->SetPos({0, 0, 0});
+
+    //  who         from for     view
+    Cue const ground[] = {
+        {background, 0, length, fixed_view    },
+        {mountain,   0, length, in_camera_view},
+    };
+    add_cues(*scene, ground, beat);
+
+    for (Title const& title : titles) {
+        auto model = make_title(title);
+        blinker->Add(model);
+        scene->AddEnabler(make_enabler({model, 0, length, in_camera_view}, beat));
+    }
+    scene->AddEnabler(make_enabler({blinker, 0, length, in_camera_view}, beat));
+    scene->AddCamera(make_enabler({camera, 0, length, in_camera_view}, beat));
+    return scene;
+}

@@ -1,0 +1,52 @@
+#include "show/shells.h"
+
+#include "effekt/simplemodel.h"
+#include "kore/staticrotator.h"
+#include "show/score.h"
+#include "show/show.h"
+
+namespace {
+
+constexpr float offsets[] = {0, 0.2f, 0.4f, 0.6f}; // beats
+
+struct Shell {
+    char const* name;
+    float scale;
+    int color;
+    std::size_t blinker; // counted from 0
+    float spin[3];       // degrees per second
+};
+
+constexpr Shell shells[] = {
+    {"hollowsoccerball", 20,  0, 1, {-30, -90, -50}},
+    {"frameoctoball",    30,  1, 2, {10, 30, -20}  },
+    {"frameicosahedron", 150, 0, 3, {-40, -30, 20} },
+};
+
+} // namespace
+
+FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat) {
+    FourBlinkers blinkers;
+    for (std::size_t b = 0; b < blinkers.size(); ++b) {
+        blinkers[b] = std::make_shared<effect::Blinker>();
+        for (unsigned int i = 0; i <= 15; ++i) {
+            blinkers[b]->AddEntry(beat * static_cast<float>(4 * i) + offsets[b] * beat, beat + beat, Blink::Strobe, 4);
+        }
+    }
+    for (auto const& blinker : blinkers) scene.AddEnabler(make_enabler({blinker, 0, length, in_camera_view}, beat));
+    return blinkers;
+}
+
+void add_shells(kore::Scene& scene, FourBlinkers const& blinkers, int length, float beat) {
+    for (Shell const& shell : shells) {
+        auto model = std::make_shared<effect::SimpleModel>(models, shell.name, "");
+        model->SetScale({shell.scale, shell.scale, shell.scale});
+        model->SetColor(shell.color);
+        model->DrawWireframe(true);
+        model->SetPos({0, 0, 0});
+        auto spin = std::make_shared<kore::StaticRotator>();
+        spin->SetSpin({shell.spin[0], shell.spin[1], shell.spin[2]});
+        scene.AddEnabler(make_enabler({model, 0, length, in_camera_view, {spin}}, beat));
+        blinkers[shell.blinker]->Add(model);
+    }
+}
