@@ -61,16 +61,16 @@ struct Option {
 
 // In the order of checking.
 constexpr Option options[] = {
-    // name      value? what it sets
-    {"-w",       false, [](std::string const&) { video_fullscreen = sf::Style::Close; }        },
-    {"-novsync", false, [](std::string const&) { vsync = false; }                              },
-    {"-fps",     false, [](std::string const&) { fps_counter = true; }                         },
-    {"-nolimit", false, [](std::string const&) { fps_limit_value = 0; }                        },
-    {"-magic",   false, [](std::string const&) { mushroom_mode = true; }                       }, // not in the help
-    {"-mute",    false, [](std::string const&) { music_enabled = false; }                      },
-    {"-nofsaa",  false, [](std::string const&) { video_fsaa_level = 0; }                       }, // not in the help
-    {"-limit",   true,  [](std::string const& value) { fps_limit_value = my_atoi(value); }     },
-    {"-width",   true,  set_width                                                              },
+  // name      value? what it sets
+    {"-w",       false, [](std::string const&) { video_fullscreen = sf::Style::Close; }   },
+    {"-novsync", false, [](std::string const&) { vsync = false; }                         },
+    {"-fps",     false, [](std::string const&) { fps_counter = true; }                    },
+    {"-nolimit", false, [](std::string const&) { fps_limit_value = 0; }                   },
+    {"-magic",   false, [](std::string const&) { mushroom_mode = true; }                  }, // not in the help
+    {"-mute",    false, [](std::string const&) { music_enabled = false; }                 },
+    {"-nofsaa",  false, [](std::string const&) { video_fsaa_level = 0; }                  }, // not in the help
+    {"-limit",   true,  [](std::string const& value) { fps_limit_value = my_atoi(value); }},
+    {"-width",   true,  set_width                                                         },
 };
 
 Option const* find_option(std::string const& name) {
@@ -233,15 +233,24 @@ void handle_event(Controls& controls, sf::Event const& event) {
     case sf::Event::Resized:
         glViewport(0, 0, static_cast<GLsizei>(event.size.width), static_cast<GLsizei>(event.size.height));
         break;
-    case sf::Event::Closed: quit = true; break;
-    case sf::Event::KeyPressed: key_pressed(controls, event.key.code); break;
-    case sf::Event::KeyReleased: key_released(controls, event.key.code); break;
-    case sf::Event::LostFocus: controls.view.ReleaseAll(); break; // the releases go to another window
-    default: break;
+    case sf::Event::Closed:
+        quit = true;
+        break;
+    case sf::Event::KeyPressed:
+        key_pressed(controls, event.key.code);
+        break;
+    case sf::Event::KeyReleased:
+        key_released(controls, event.key.code);
+        break;
+    case sf::Event::LostFocus:
+        controls.view.ReleaseAll();
+        break; // the releases go to another window
+    default:
+        break;
     }
 }
 
-void run_show(sf::RenderWindow& window) {
+void run_show(sf::Window& window) {
     float const beat = beat2seconds(beats_per_minute, 4);
     BeatClock beats(beat);
     sf::Clock clock;
@@ -282,7 +291,8 @@ int main(int argc, char** argv) {
     enter_data_folder(HARDSILENCE_SHARE);
 
     sf::ContextSettings const settings(video_depth, video_stencil, video_fsaa_level);
-    sf::RenderWindow window(
+    // Not a render window: that one makes OpenGL calls of its own in every frame.
+    sf::Window window(
         sf::VideoMode(static_cast<unsigned int>(resolution_x), static_cast<unsigned int>(resolution_y), 32),
         window_title, static_cast<sf::Uint32>(video_fullscreen), settings);
     init_gl();

@@ -6,8 +6,8 @@
 #include "runtime/beatclock.h"
 #include "runtime/debugcamera.h"
 
-#include <SFML/Graphics/RenderWindow.hpp>
 #include <SFML/Window/Event.hpp>
+#include <SFML/Window/Window.hpp>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,7 +17,7 @@ extern unsigned long video_fullscreen; ///< window style: 8 full screen, 4 a win
 extern bool vsync;
 extern int resolution_x; ///< pixels
 extern int resolution_y;
-extern int fps_limit_value; ///< frames per second, used without vertical sync only; 0 for no limit
+extern int fps_limit_value;           ///< frames per second, used without vertical sync only; 0 for no limit
 extern unsigned int video_depth;      ///< bits
 extern unsigned int video_stencil;    ///< bits
 extern unsigned int video_fsaa_level; ///< samples
@@ -60,4 +60,4 @@ struct Controls {
 void handle_event(Controls& controls, sf::Event const& event);
 
 /// Plays the show in an open window until it ends.
-void run_show(sf::RenderWindow& window);
+void run_show(sf::Window& window);

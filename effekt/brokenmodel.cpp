@@ -27,11 +27,15 @@ float BrokenModel::DefaultSet::set(int index) {
     switch (index) {
     case 0:
     case 1:
-    case 2: return s(20.0f);
+    case 2:
+        return s(20.0f);
     case 3:
-    case 4: return s(3.0f);
-    case 5: return s(5.0f);
-    default: return 1.0f;
+    case 4:
+        return s(3.0f);
+    case 5:
+        return s(5.0f);
+    default:
+        return 1.0f;
     }
 }
 

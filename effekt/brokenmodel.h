@@ -42,9 +42,9 @@ public:
         float s(float f) override;
     };
 
-    /// Reads the model's file into the per-triangle store, every time anew, reseeds the process-wide generator and draws
-    /// the values of a DefaultSet: two broken models of one mesh fall apart alike. A model that cannot be had ends the
-    /// program.
+    /// Reads the model's file into the per-triangle store, every time anew, reseeds the process-wide generator and
+    /// draws the values of a DefaultSet: two broken models of one mesh fall apart alike. A model that cannot be had
+    /// ends the program.
     /// @param model_name  object name in the library
     /// @param file_name   file to load; "" for the object name with ".asc"
     BrokenModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name);
@@ -59,7 +59,8 @@ public:
     /// @param time  seconds that closing takes, and so the amount at which scattered pieces wait; at first -1
     void SetTransitionTime(float const& time) { myTransitionTime = time; }
 
-    /// @param direction  below 0 (at first -1): Break breaks apart; 0 or above: Break closes; 1 or above: and the pieces
+    /// @param direction  below 0 (at first -1): Break breaks apart; 0 or above: Break closes; 1 or above: and the
+    /// pieces
     ///                   are drawn scattered while they wait
     void SetDirection(int direction) { myDirection = direction; }
 
@@ -83,7 +84,7 @@ private:
     std::shared_ptr<kore::SingleAscModelFull> myModel;
     float myBreakStart = 0; ///< seconds of scene time
     State myState = Idle;
-    float myAmount = 0; ///< how far along their way the pieces are, seconds
+    float myAmount = 0;           ///< how far along their way the pieces are, seconds
     std::vector<Values> myValues; ///< one per triangle, in face order
     int myDirection = -1;
     float myTransitionTime = -1; ///< seconds

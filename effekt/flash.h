@@ -29,8 +29,8 @@ public:
     void SetColor(kore::Color<float> color) { myColor = color; }
 
 private:
-    float myTime = 0;    ///< seconds of scene time
-    int myBeat = -1;     ///< of the scene
+    float myTime = 0; ///< seconds of scene time
+    int myBeat = -1;  ///< of the scene
     bool myTriggered = false;
     bool myActive = false;
     float myStart = 0;    ///< of the flash, seconds of scene time

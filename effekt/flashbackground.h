@@ -7,8 +7,8 @@
 
 namespace effect {
 
-/// The backdrop of a scene: a wall of 30 x 30 tiles in the main colour, x and y from -1500 to 1500, and 100 units behind
-/// it one large square in the contrasting colour. The Flip event turns all tiles together.
+/// The backdrop of a scene: a wall of 30 x 30 tiles in the main colour, x and y from -1500 to 1500, and 100 units
+/// behind it one large square in the contrasting colour. The Flip event turns all tiles together.
 class FlashBackground final : public kore::Entity, public Blinking {
 public:
     /// One tile of the wall.
@@ -39,9 +39,9 @@ private:
 
     enum State { Requested = -1, Running = 0, Idle = 1 };
 
-    unsigned int myTile;    ///< display list of one tile
-    float myFlipStart = 0;  ///< seconds of scene time
-    float myLevel = 1;      ///< turn of every tile: 0 flat, 1 fully turned (which looks flat again)
+    unsigned int myTile;   ///< display list of one tile
+    float myFlipStart = 0; ///< seconds of scene time
+    float myLevel = 1;     ///< turn of every tile: 0 flat, 1 fully turned (which looks flat again)
     State myState = Idle;
     float myDuration = 0.5f; ///< seconds
     bool myFlipBack = false; ///< from turned to flat

@@ -11,7 +11,8 @@ namespace effect {
 /// Deliberate: it never reports itself started, so a Blinker never reaches it; Blink can be called directly.
 class ModelSwapper final : public kore::Entity, public Blinking {
 public:
-    /// @param name  of the file (without ".asc") and of the object in it. A file that cannot be loaded ends the program;
+    /// @param name  of the file (without ".asc") and of the object in it. A file that cannot be loaded ends the
+    /// program;
     ///              where it lacks the object nothing is drawn.
     explicit ModelSwapper(std::string const& name);
 

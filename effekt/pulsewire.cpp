@@ -55,8 +55,8 @@ void PulseWire::DrawBracketed() {
 }
 
 void PulseWire::DrawStandard() {
-    // The first torus: its pushes are refused inside the primitive, its faces' own glBegin too, and their glEnd ends the
-    // quads; so the two pops find matrices that others have pushed.
+    // The first torus: its pushes are refused inside the primitive, its faces' own glBegin too, and their glEnd ends
+    // the quads; so the two pops find matrices that others have pushed.
     glBegin(GL_QUADS);
     drawColor();
     glCallList(myFirstCorners);

@@ -13,9 +13,9 @@ namespace effect {
 /// A wire of 99 small tori threaded along a spline, faces in one grey and lines in the other.
 ///
 /// Deliberate: the whole wire is issued between one glBegin and its glEnd. What that draws is the driver's choice. By
-/// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time and
-/// its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws after
-/// the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing.
+/// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time
+/// and its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws
+/// after the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing.
 class PulseWire final : public kore::Entity, public Blinking {
 public:
     /// Environment variable; set to anything but "" or "0", it makes the wire issue only the calls that take effect by

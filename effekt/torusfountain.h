@@ -13,12 +13,12 @@ class TorusFountain final : public kore::Entity, public Blinking {
 public:
     /// The motion of one torus.
     struct sizepos {
-        int move_direction = 1;              ///< +1 rising, -1 falling
-        float move_turn_time = 0;            ///< scene time at which the rise or fall began, seconds
+        int move_direction = 1;   ///< +1 rising, -1 falling
+        float move_turn_time = 0; ///< scene time at which the rise or fall began, seconds
         kore::Vector3<float> position{0, 0, 0};
-        int size_direction = 1;              ///< +1 growing, -1 shrinking
-        float size_turn_time = 0;            ///< scene time at which the growing or shrinking began, seconds
-        float size = 0;                      ///< scale, from 1 to 9
+        int size_direction = 1;   ///< +1 growing, -1 shrinking
+        float size_turn_time = 0; ///< scene time at which the growing or shrinking began, seconds
+        float size = 0;           ///< scale, from 1 to 9
     };
 
     /// Loads "torus2.asc" into the library and takes its object "torus2"; where that fails nothing is drawn.

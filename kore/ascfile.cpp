@@ -60,9 +60,14 @@ AscFile::Result AscFile::Next() {
     if (part == Part::Done) part = ReadVertices();
     if (part == Part::Done) part = ReadFaces();
     switch (part) {
-    case Part::Done: return Result::Object;
-    case Part::Short: at_end = true; return Result::End;
-    case Part::Fault: at_end = true; return Result::Fault;
+    case Part::Done:
+        return Result::Object;
+    case Part::Short:
+        at_end = true;
+        return Result::End;
+    case Part::Fault:
+        at_end = true;
+        return Result::Fault;
     }
     return Result::Fault;
 }

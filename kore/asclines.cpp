@@ -65,9 +65,9 @@ bool parse_plain_vertex(std::string_view line, float* xyz) {
     Cursor c(line);
     int index = 0;
     float v[3] = {0, 0, 0};
-    bool const plain = c.Text("Vertex ") && c.Blanks() && c.Int(index) && c.Text(":") &&    //
-                       c.Blanks() && c.Text("X:") && c.Blanks() && c.Float(v[0]) &&         //
-                       c.Blanks() && c.Text("Y:") && c.Blanks() && c.Float(v[1]) &&         //
+    bool const plain = c.Text("Vertex ") && c.Blanks() && c.Int(index) && c.Text(":") && //
+                       c.Blanks() && c.Text("X:") && c.Blanks() && c.Float(v[0]) &&      //
+                       c.Blanks() && c.Text("Y:") && c.Blanks() && c.Float(v[1]) &&      //
                        c.Blanks() && c.Text("Z:") && c.Blanks() && c.Float(v[2]) && c.End();
     if (plain) std::copy_n(v, 3, xyz);
     return plain;
@@ -77,12 +77,12 @@ bool parse_plain_face(std::string_view line, int* fields) {
     Cursor c(line);
     int index = 0;
     int f[6] = {0, 0, 0, 0, 0, 0};
-    bool const plain = c.Text("Face ") && c.Blanks() && c.Int(index) && c.Text(":") &&      //
-                       c.Blanks() && c.Text("A:") && c.Blanks() && c.Int(f[0]) &&           //
-                       c.Blanks() && c.Text("B:") && c.Blanks() && c.Int(f[1]) &&           //
-                       c.Blanks() && c.Text("C:") && c.Blanks() && c.Int(f[2]) &&           //
-                       c.Blanks() && c.Text("AB:") && c.Blanks() && c.Int(f[3]) &&          //
-                       c.Blanks() && c.Text("BC:") && c.Blanks() && c.Int(f[4]) &&          //
+    bool const plain = c.Text("Face ") && c.Blanks() && c.Int(index) && c.Text(":") && //
+                       c.Blanks() && c.Text("A:") && c.Blanks() && c.Int(f[0]) &&      //
+                       c.Blanks() && c.Text("B:") && c.Blanks() && c.Int(f[1]) &&      //
+                       c.Blanks() && c.Text("C:") && c.Blanks() && c.Int(f[2]) &&      //
+                       c.Blanks() && c.Text("AB:") && c.Blanks() && c.Int(f[3]) &&     //
+                       c.Blanks() && c.Text("BC:") && c.Blanks() && c.Int(f[4]) &&     //
                        c.Blanks() && c.Text("CA:") && c.Blanks() && c.Int(f[5]) && c.End();
     if (plain) std::copy_n(f, 6, fields);
     return plain;

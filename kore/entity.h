@@ -27,7 +27,8 @@ public:
     virtual Vector3<float>& GetPos() { return position; }
     virtual Vector3<float>& GetRot() { return rotation; }
 
-    /// Translates by the position, rotates about x, then y, then z (so a vertex turns about z first), calls InternalDraw.
+    /// Translates by the position, rotates about x, then y, then z (so a vertex turns about z first), calls
+    /// InternalDraw.
     virtual void Draw();
 
 protected:

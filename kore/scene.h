@@ -17,7 +17,8 @@ public:
 
     char const* Name() override { return my_name.c_str(); }
 
-    /// Appends an enabler; they are updated and drawn in this order. The scene lasts until the end of the latest window.
+    /// Appends an enabler; they are updated and drawn in this order. The scene lasts until the end of the latest
+    /// window.
     void AddEnabler(std::shared_ptr<Enabler> e);
 
     /// Sets the enabler of the scene's camera, which does not count for the length. Every scene must have one, made

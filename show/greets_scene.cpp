@@ -35,7 +35,9 @@ Cue make_greeting(char const* name, unsigned int k, float beat) {
     float const start = beat * static_cast<float>(k + k);
     route->AddPos(Route::JUMP, start, 0, {2, -30, 0});
     route->AddPos(Route::LINEAR, start, beat * greeting_beats, {-0.4f, 224.8f, -1.9f});
-    return {greeting, static_cast<int>(k + k), greeting_beats, in_camera_view, {tumble, route}};
+    return {
+        greeting, static_cast<int>(k + k), greeting_beats, in_camera_view, {tumble, route}
+    };
 }
 
 } // namespace

@@ -82,6 +82,10 @@ std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
         {blinker,    0, length, in_camera_view},
     };
     add_cues(*scene, cues, beat);
-    scene->AddCamera(make_enabler({camera, 0, length, in_camera_view, {route, look}}, beat));
+    scene->AddCamera(make_enabler(
+        {
+            camera, 0, length, in_camera_view, {route, look}
+    },
+        beat));
     return scene;
 }

@@ -52,9 +52,9 @@ std::shared_ptr<kore::RoutePositioner> make_tag_route(float beat) {
     using Route = kore::RoutePositioner;
     auto route = std::make_shared<Route>();
     //            how            at            for           to
-    route->AddPos(Route::JUMP,   beat * 7,      0,            {-0.12f, 0, 0}    );
-    route->AddPos(Route::LINEAR, beat * 7,      beat * 5,     {-0.12f, 0, -0.5f});
-    route->AddPos(Route::LINEAR, beat * 12,     beat * 0.25f, {-0.12f, 0, -2.5f});
+    route->AddPos(Route::JUMP, beat * 7, 0, {-0.12f, 0, 0});
+    route->AddPos(Route::LINEAR, beat * 7, beat * 5, {-0.12f, 0, -0.5f});
+    route->AddPos(Route::LINEAR, beat * 12, beat * 0.25f, {-0.12f, 0, -2.5f});
     route->AddPos(Route::LINEAR, beat * 12.25f, beat * 3.75f, {-0.12f, 0, -3.5f});
     return route;
 }

@@ -10,8 +10,8 @@
 /// The model library that every scene of the show takes its meshes from.
 extern std::shared_ptr<kore::AscModel> models;
 
-/// Makes the model library over "data/" and fills the demo with the show's eight scenes; needs a current OpenGL context.
-/// A mesh that a scene cannot do without and that cannot be had ends the program with an assertion report.
+/// Makes the model library over "data/" and fills the demo with the show's eight scenes; needs a current OpenGL
+/// context. A mesh that a scene cannot do without and that cannot be had ends the program with an assertion report.
 /// @param music  not used
 /// @param beat   length of one beat, seconds
 void init_demo(kore::Demo& demo, std::shared_ptr<kore::Music> music, float const& beat);

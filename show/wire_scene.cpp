@@ -108,6 +108,10 @@ std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
         {lower_right, 0, length, in_camera_view},
     };
     add_cues(*scene, cues, beat);
-    scene->AddCamera(make_enabler({camera, 0, length, in_camera_view, {fly, aim}}, beat));
+    scene->AddCamera(make_enabler(
+        {
+            camera, 0, length, in_camera_view, {fly, aim}
+    },
+        beat));
     return scene;
 }

@@ -137,8 +137,8 @@ void glEndList() {
 void glCallList(GLuint list) {
     State& s = state();
     auto const named = s.names.find(list);
-    bool const now = named == s.names.end() ? note("CallList", {static_cast<double>(list)})
-                                            : note("CallList", {}, named->second);
+    bool const now =
+        named == s.names.end() ? note("CallList", {static_cast<double>(list)}) : note("CallList", {}, named->second);
     if (!now) return;
     if (s.logging == gl::Logging::Text) {
         std::string const name = named == s.names.end() ? std::to_string(list) : named->second;
@@ -188,9 +188,7 @@ void glViewport(GLint x, GLint y, GLsizei width, GLsizei height) {
     if (now) state_call("Viewport");
 }
 
-void glBindTexture(GLenum target, GLuint texture) {
-    note("BindTexture", {static_cast<double>(texture)}, word(target));
-}
+void glBindTexture(GLenum target, GLuint texture) { note("BindTexture", {static_cast<double>(texture)}, word(target)); }
 void glTexParameterf(GLenum, GLenum name, GLfloat value) {
     note("TexParameterf", {}, two_words(name, static_cast<GLenum>(value)));
 }
@@ -210,7 +208,8 @@ GLint gluBuild2DMipmaps(GLenum, GLint components, GLsizei width, GLsizei height,
     auto const* bytes = static_cast<unsigned char const*>(texels);
     double sum = 0;
     for (long i = 0; i < 3L * width * height; ++i) sum += bytes[i];
-    note("Build2DMipmaps", {static_cast<double>(components), static_cast<double>(width), static_cast<double>(height), sum});
+    note("Build2DMipmaps",
+         {static_cast<double>(components), static_cast<double>(width), static_cast<double>(height), sum});
     return 0;
 }
 

@@ -101,13 +101,13 @@ void glRotatef(GLfloat angle, GLfloat ax, GLfloat ay, GLfloat az) {
     double const s = std::sin(angle * degrees);
     double const d = 1 - c;
     multiply_top("Rotate", {x * x * d + c, y * x * d + z * s, x * z * d - y * s, 0, x * y * d - z * s, y * y * d + c,
-                     y * z * d + x * s, 0, x * z * d + y * s, y * z * d - x * s, z * z * d + c, 0, 0, 0, 0, 1});
+                            y * z * d + x * s, 0, x * z * d + y * s, y * z * d - x * s, z * z * d + c, 0, 0, 0, 0, 1});
 }
 
 void glFrustum(GLdouble l, GLdouble r, GLdouble b, GLdouble t, GLdouble n, GLdouble f) {
     if (!note("Frustum", {l, r, b, t, n, f})) return;
     multiply_top("Frustum", {2 * n / (r - l), 0, 0, 0, 0, 2 * n / (t - b), 0, 0, (r + l) / (r - l), (t + b) / (t - b),
-                      -(f + n) / (f - n), -1, 0, 0, -2 * f * n / (f - n), 0});
+                             -(f + n) / (f - n), -1, 0, 0, -2 * f * n / (f - n), 0});
 }
 
 void gluLookAt(GLdouble ex, GLdouble ey, GLdouble ez, GLdouble cx, GLdouble cy, GLdouble cz, GLdouble ux, GLdouble uy,

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-/// A stand-in for OpenGL and GLU: defines the entry points that the show uses, logs every call, keeps true matrix stacks
-/// with the standard's error rules, and compiles display lists. Link it instead of the driver's library; no window or
-/// context is needed.
+/// A stand-in for OpenGL and GLU: defines the entry points that the show uses, logs every call, keeps true matrix
+/// stacks with the standard's error rules, and compiles display lists. Link it instead of the driver's library; no
+/// window or context is needed.
 namespace gl {
 
 /// Column-major, as OpenGL has it: element (row, column) at [column * 4 + row].
@@ -16,10 +16,10 @@ using Matrix = std::array<double, 16>;
 /// One glCallList outside of a list's compilation: what was drawn, where and how.
 struct Draw {
     unsigned int list;
-    std::string name;              ///< see name_list
-    Matrix model_view;             ///< in force at the call
-    std::array<float, 4> color;    ///< current colour, red, green, blue, alpha
-    bool inside_primitive;         ///< called between glBegin and glEnd
+    std::string name;           ///< see name_list
+    Matrix model_view;          ///< in force at the call
+    std::array<float, 4> color; ///< current colour, red, green, blue, alpha
+    bool inside_primitive;      ///< called between glBegin and glEnd
 };
 
 enum class Logging {
