@@ -39,7 +39,8 @@ std::vector<double> kick_beats() {
     }
     add(184, 256);
     add(284, 287);
-    add(288, 351);
+    add(288, 316);
+    add(320, 351);
     return beats;
 }
 

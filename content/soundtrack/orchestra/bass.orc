@@ -6,7 +6,7 @@ instr Bass
   icps = cpsmidinn(p5)
   a1 vco2 0.5, icps
   a2 vco2 0.5, icps * 1.008, 0, 0.5, 0.37
-  a3 vco2 0.35, icps * 0.9965, 10, 0.5, 0.6
+  a3 vco2 0.4, icps * 2.003, 10, 0.5, 0.6
   kgrowl lfo 1, giTempo / 60 * 4, 0
   ksnap expseg 1, 0.09, 0.35, 0.25, 0.12, 10, 0.1
   kcut = 170 + (800 + 4200 * p6) * ksnap * (0.6 + 0.4 * p4) * (1 + 0.25 * kgrowl)
@@ -15,7 +15,7 @@ instr Bass
   agrowl butterhp agrowl, 70
   asub oscili 1, icps
   aenv linseg 0, 0.002, 1, p3 - 0.032, 0.8, 0.03, 0
-  gaBass = gaBass + (agrowl * 0.62 + asub * 0.36) * aenv * p4
+  gaBass = gaBass + (agrowl * 0.72 + asub * 0.3) * aenv * p4
 endin
 
 ; Reese: a long growl, two saws that beat against each other. tone: how far the filter wanders.

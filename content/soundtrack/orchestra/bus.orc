@@ -53,6 +53,12 @@ endop
 ; A ramp shared by voices: one value that a section moves, such as the filter of the tunnel's line.
 gkSweep init 0
 
+; How loud a section is; `section` sets it on its first beat.
+gkTrim init 1
+instr Trim
+  gkTrim init p4
+endin
+
 ; Moves gkSweep from p4 to p5, over p3 seconds.
 instr Sweep
   gkSweep line p4, p3, p5

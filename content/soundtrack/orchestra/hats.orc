@@ -14,13 +14,13 @@ endop
 
 ; Closed hat. tone: place in the room, 0 left, 1 right (0 also when left out: a little left).
 instr Hat
-  p3 = 0.07
+  p3 = 0.085
   ametal cymbal 540
   anoise hiss
   aout butterhp ametal * 0.9 + anoise * 0.55, 7600
-  aenv expseg 1, 0.045 + 0.02 * p4, 0.01, 1, 0.01
-  afade linseg 1, 0.06, 1, 0.01, 0
-  aleft, aright place aout * aenv * afade * 0.85 * p4, (p6 - 0.4) * 0.7
+  aenv expseg 1, 0.055 + 0.03 * p4, 0.01, 1, 0.01
+  afade linseg 1, 0.075, 1, 0.01, 0
+  aleft, aright place aout * aenv * afade * 1.5 * p4, (p6 - 0.4) * 0.7
   plain aleft, aright, 0.02, 0
 endin
 

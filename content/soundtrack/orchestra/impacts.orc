@@ -97,7 +97,7 @@ instr Riser
   a2 vco2 0.5, ktone * 1.011
   avoice butterlp a1 + a2, kcut * 1.5
   aenv expseg 0.03, p3 * 0.8, 0.6, p3 * 0.2, 1
-  afade linseg 0, 0.02, 1, p3 - 0.024, 1, 0.004, 0
+  afade linseg 0, 0.02, 1, p3 - 0.05, 1, 0.005, 0, 0.025, 0
   aleft = (aleft * 0.75 + avoice * 0.5 * p6) * aenv * afade * 0.5 * p4
   aright = (aright * 0.75 + avoice * 0.5 * p6) * aenv * afade * 0.5 * p4
   ducked aleft, aright, 0.15, 0
@@ -121,7 +121,8 @@ instr Suck
   kcut expon 400, p3, 9000
   aleft butterlp aleft, kcut
   aright butterlp aright, kcut
-  aenv expseg 0.004, p3 * 0.7, 0.12, p3 * 0.3 - 0.003, 1, 0.003, 0.001
+  igap = 0.03 ; a breath before what follows
+  aenv expseg 0.004, p3 * 0.7, 0.12, p3 * 0.3 - igap - 0.004, 1, 0.004, 0.001, igap, 0.001
   plain aleft * aenv * 0.5 * p4, aright * aenv * 0.5 * p4, 0.05, 0
 endin
 

@@ -18,10 +18,12 @@ instr Kick
   anoise butterhp anoise, 1800
   ablipcps expseg 4200, 0.012, 700, 1, 700
   ablip oscili 1, ablipcps, -1, 0.25
-  aclick = (anoise * 0.34 + ablip * 0.36) * agrain
+  aclick = (anoise * 0.75 + ablip * 0.7) * agrain
 
   aout = (abody * 0.84 + aclick) * p4
   gaKick = gaKick + aout
+  gaPlainL = gaPlainL + aclick * 0.22 * p4 ; past the glue, so that the attack stays sharp
+  gaPlainR = gaPlainR + aclick * 0.22 * p4
 endin
 
 ; The floor after the kick: a dark rumble on the sixteenths between. tone: how open it is.

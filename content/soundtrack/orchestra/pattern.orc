@@ -16,10 +16,11 @@ opcode seconds, i, i
   xout ibeats * 60 / giTempo
 endop
 
-; section first beat of the show
-opcode section, 0, i
-  ibeat xin
+; section first beat of the show [, loudness in decibels against the others]
+opcode section, 0, io
+  ibeat, idecibels xin
   giOrigin = ibeat
+  schedule "Trim", seconds(ibeat), 0, ampdb(idecibels)
 endop
 
 ; at beat, voice, beats it lasts [, level, note, tone]

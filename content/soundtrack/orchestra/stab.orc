@@ -25,6 +25,7 @@ endin
 instr Accent
   p3 = 0.3
   icps = cpsmidinn(p5)
+  schedule "Duck", 0, 0.34, 0.55 * p4
   a1 vco2 0.4, icps
   a2 vco2 0.4, icps * 1.4983 * 1.004, 0, 0.5, 0.3
   a3 vco2 0.4, icps * 2.006, 0, 0.5, 0.6
@@ -34,7 +35,7 @@ instr Accent
   anoise butterhp anoise, 4200
   agrain expseg 1, 0.05, 0.02, 1, 0.01
   aenv linseg 1, 0.06, 0.6, 0.2, 0.1, 0.04, 0
-  aout butterhp tanh(asaw * 1.5) * 0.4 * aenv + anoise * agrain * 0.3, 180
-  aleft, aright place aout * 0.9 * p4, (p6 - 0.5) * 1.3
+  aout butterhp tanh(asaw * 1.5) * 0.4 * aenv + anoise * agrain * 0.75, 180
+  aleft, aright place aout * 1.25 * p4, (p6 - 0.5) * 1.3
   plain aleft, aright, 0.22, 0.1
 endin

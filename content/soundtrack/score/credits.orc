@@ -1,6 +1,6 @@
 ; Credits, 24 beats: the long flickers at 0, 8 and 16, and between them the dancers swap on stabs. Broken beat.
 instr Credits
-  section p4
+  section p4, 0
 
   ; Flickers: the picture swaps at full speed, the chord is chopped at its pace
   at 0,  "Flicker", 3.6, 0.9, 43, 0.3

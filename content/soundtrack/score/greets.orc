@@ -1,7 +1,7 @@
 ; Greets, 32 beats: a name every two beats for sixteen, then the shaft is empty. The theme thins out to one bell
 ; and ends on the show's last beat; the tail is the room's.
 instr Greets
-  section p4
+  section p4, -1.5
 
   at 0, "Impact", 4, 0.9, 0, 0.5
   at 0, "Crash", 5, 0.6

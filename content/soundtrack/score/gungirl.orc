@@ -5,7 +5,7 @@ gSGunBass  = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . g1 . g2~ 
 gSGunBass2 = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . ab1 . ab2~ . . f#1 . . f#1 f#1"
 
 instr GunGirl
-  section p4
+  section p4, 0
 
   ; Pieces close in: faster and faster, all towards one point
   at 0, "Impact", 2, 0.7, 0, 0.3
@@ -37,9 +37,11 @@ instr GunGirl
   ; Groove
   at 8, "Crash", 4, 0.7
   hits 8, 46, "Kick", "X... X... X... X...", 1, 0, 0.1
-  play 8, 40, "Bass", gSGunBass, 0.95, 0, 0.3
-  play 40, 47, "Bass", gSGunBass2, 0.95, 0, 0.55
-  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.55
+  play 8, 24, "Bass", gSGunBass, 0.95, 0, 0.4
+  play 24, 40, "Bass", gSGunBass, 0.95, 0, 0.6
+  play 40, 47, "Bass", gSGunBass2, 0.95, 0, 0.8
+  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.75
+  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.6, 0, 0.15
   hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
 
   ; Turn: claps, the gun answers

@@ -1,15 +1,15 @@
 ; Intro, 16 beats: a word a beat, a flash a quarter beat after each, nothing between. Glass at 12.25, again at 14.
 instr Intro
-  section p4
+  section p4, -0.5
 
   ; Six words and the name: a blow, its flash, hard silence. The flashes spell the theme's first bar.
   iwords[] fillarray 67, 74, 75, 74, 70, 72, 67
   iword = 0
   while iword < 7 do
-    at iword, "Impact", 1, 0.62 + 0.03 * iword, 0, 0.25 + 0.1 * iword
-    at iword, "Kick", 0.5, 1, 0, 0.5
-    at iword, "Stab", 0.2, 0.55, iwords[iword] - 24, 0.2
-    at iword + 0.25, "Zap", 0.3, 1, iwords[iword], 0.35
+    at iword, "Impact", 1, 0.5 + 0.03 * iword, 0, 0.25 + 0.08 * iword
+    at iword, "Kick", 0.5, 0.9, 0, 0.6
+    at iword, "Stab", 0.3, 1, iwords[iword] - 24, 0.35 + 0.08 * iword
+    at iword + 0.25, "Zap", 0.3, 1.4, iwords[iword], 0.35
     at iword + 0.25, "Snare", 0.2, 0.5 + 0.05 * iword, 0, 0.3
     if iword < 6 then
       hush iword + 0.62, iword + 1

@@ -1,7 +1,7 @@
 ; Plasma, 32 beats: the title. The beat is gone, the theme goes at half speed over wide saws.
 ; The last four beats build, the very last is nothing.
 instr Plasma
-  section p4
+  section p4, -4
 
   at 0, "Impact", 4, 1, 0, 0.7
   at 0, "Crash", 6, 0.8
@@ -26,11 +26,11 @@ instr Plasma
 
   ; Build
   at 20, "Riser", 11, 0.6, 74, 0.4
-  at 28, "Riser", 3, 0.9, 86, 0.9
+  at 28, "Riser", 3, 0.6, 86, 0.9
   at 28, "Impact", 2, 0.6, 0, 0.5
-  hits 28, 29, "Snare", "x.x.", 0.6, 0, 0
-  hits 29, 30, "Snare", "xxxx", 0.7, 0, 0.25
-  hits 30, 31, "Snare", "rrrr", 0.9, 0, 0.5
-  hits 28, 31, "Kick", "x...", 0.9
+  hits 28, 29, "Snare", "X.x.", 0.6, 0, 0
+  hits 29, 30, "Snare", "Xxxx", 0.7, 0, 0.25
+  hits 30, 31, "Snare", "Xrrr", 0.9, 0, 0.5
+  hits 28, 31, "Kick", "X...", 1, 0, 0.4
   hush 31, 32
 endin

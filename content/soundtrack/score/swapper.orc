@@ -27,7 +27,7 @@ opcode shape, 0, iSSi
 endop
 
 instr Swapper
-  section p4
+  section p4, 1.2
   istraight = 0.15
 
   ; 1, the cube: the drop. The theme, plain.
@@ -35,7 +35,7 @@ instr Swapper
   shape 0, "X... X... X... X...", ".... X... .... X...", istraight
   hits 3, 4, "Kick", "X.xX", 0.9
   play 0, 16, "Bass", gSSwapBass1, 1, 0, 0.5
-  hits 0, 16, "Hat", "o.xo o.xo o.xo oxxo", 0.6
+  hits 0, 16, "Hat", "ooxo ooxo ooxo oxxr", 0.6
   hits 0, 16, "OpenHat", "..X. ..X. ..X. ..X.", 0.8
   hits 4, 16, "Clap", ".... .... .... ..o.", 0.6
   play 0, 16, "Lead", gSTheme, 0.85, 0, 0.4
@@ -58,7 +58,7 @@ instr Swapper
   shape 32, "X... X... X... X...", ".... X... .... X..o", istraight
   hits 35, 36, "Tom", "x.xx", 0.8, 38, 0.8
   play 32, 48, "Bass", gSSwapBass3, 0.95, 0, 0.55
-  hits 32, 48, "Hat", "o.xo o.xo o.xo oxxo", 0.6
+  hits 32, 48, "Hat", "o.xo ooxo o.xo oxxo", 0.6
   hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
   play 32, 48, "Lead", gSTheme, 0.75, 0, 0.6
   play 36, 48, "Wail", "g4 - - g4 - - ab4 - bb4 - - - - - bb4 - | c5 - - g4 - - g4 - c5 - - eb5 - - d5 - | c5 - - - ab4 - - - f#4 - - - d4 - - -", 0.8, 0, 0.5
@@ -89,7 +89,7 @@ instr Swapper
   shape 64, "X... X... X... X...", ".... X... .... X...", 0.6
   hits 67, 68, "Kick", "XxXx", 0.9, 0, 0.6
   play 64, 80, "Bass", gSSwapBass5, 1, 0, 0.95
-  hits 64, 80, "Rumble", "..xx ..xx ..xx ..xx", 0.7, 31, 0.4
+  hits 64, 80, "Rumble", "..xx ..xx ..xx ..xx", 0.5, 31, 0.4
   hits 68, 80, "Hat", "..Xo ..Xo ..Xo ..Xo", 0.7
   hits 68, 80, "Ride", "..X. ..X. ..X. ..X.", 0.7
   play 64, 80, "Lead", gSTheme, 0.8, -24, 0.9

@@ -7,7 +7,7 @@ gSTunnelLine  = {{ g2! g2 g3 d3!  g2 g3 eb3! g2   d3! g2 g3 bb2!  g2 g2 c3! g3  
 gSTunnelBass  = ". . g1 g1 . . g1 g1 . . g1 g1 . . g1 bb1"
 
 instr Tunnel
-  section p4
+  section p4, 0.5
 
   at 0, "Impact", 3, 1, 0, 0.8
   at 0, "Crash", 5, 0.7
@@ -27,7 +27,7 @@ instr Tunnel
     ito   = itos[istage]
     irise = irises[istage]
     play ifrom, ito, "Acid", gSTunnelLine, 0.85 + 0.05 * istage, irise, 0.2 + 0.2 * istage
-    hits ifrom, ito, "Rumble", "..xx ..xx ..xx .xxx", 0.55 + 0.1 * istage, 31 + irise, 0.15 * istage
+    hits ifrom, ito, "Rumble", "..xx ..xx ..xx .xxx", 0.4 + 0.1 * istage, 31 + irise, 0.15 * istage
     if istage > 0 then
       at ifrom, "Impact", 2, 0.8, 0, 0.6
       at ifrom, "Crash", 4, 0.7
@@ -51,7 +51,7 @@ instr Tunnel
   hits 56, 72, "Ride", "x...", 0.7
   hits 64, 68, "Snare", "o.o.", 0.5, 0, 0.1
   hits 68, 70, "Snare", "xoxo", 0.6, 0, 0.3
-  hits 70, 72, "Snare", "xxxx XXrr", 0.8, 0, 0.6
+  hits 70, 72, "Snare", "Xxxx Xxrr", 0.8, 0, 0.6
 
   ; The camera looks aside: the bass is gone, the tentacles breathe
   play 24, 40, "Pad", "bb3+db4+f4 - - - | gb3+bb3+db4 - - -", 0.65, 0, 0.35, 1
@@ -61,5 +61,5 @@ instr Tunnel
   play 40, 56, "Lead", gSThemeBones, 0.7, 5, 0.5
   play 56, 72, "Lead", gSTheme, 0.75, 7, 0.8
   play 56, 72, "Stab", ". . g2 . . . g2 . . . g2 . . . g2 .", 0.45, 7, 0.7
-  at 60, "Riser", 12, 1, 86, 0.7
+  at 60, "Riser", 12, 0.7, 86, 0.7
 endin
