@@ -1,0 +1,43 @@
+; Basses, all mono.
+
+; Bass: two saws and a square growl through a filter that snaps shut, over a clean sine. tone: how far it opens.
+instr Bass
+  p3 = p3 + 0.03
+  icps = cpsmidinn(p5)
+  a1 vco2 0.5, icps
+  a2 vco2 0.5, icps * 1.008, 0, 0.5, 0.37
+  a3 vco2 0.4, icps * 2.003, 10, 0.5, 0.6
+  kgrowl lfo 1, giTempo / 60 * 4, 0
+  ksnap expseg 1, 0.09, 0.35, 0.25, 0.12, 10, 0.1
+  kcut = 170 + (800 + 4200 * p6) * ksnap * (0.6 + 0.4 * p4) * (1 + 0.25 * kgrowl)
+  agrowl moogladder2 tanh((a1 + a2 + a3) * 1.5), kcut, 0.35
+  agrowl = tanh(agrowl * (2.2 + 2.5 * p6))
+  agrowl butterhp agrowl, 70
+  asub oscili 1, icps
+  aenv linseg 0, 0.002, 1, p3 - 0.032, 0.8, 0.03, 0
+  gaBass = gaBass + (agrowl * 0.72 + asub * 0.3) * aenv * p4
+endin
+
+; Reese: a long growl, two saws that beat against each other. tone: how far the filter wanders.
+instr Reese
+  p3 = p3 + 0.05
+  icps = cpsmidinn(p5)
+  a1 vco2 0.5, icps * 1.006
+  a2 vco2 0.5, icps * 0.994, 0, 0.5, 0.3
+  a3 vco2 0.4, icps * 2.012, 10, 0.5, 0.7
+  kwander lfo 1, giTempo / 60 * 0.75, 1
+  kcut = 260 + 700 * p6 * (1 + 0.8 * kwander)
+  agrowl moogladder2 tanh((a1 + a2 + a3) * 2), kcut, 0.3
+  agrowl butterhp tanh(agrowl * 3), 90
+  asub oscili 1, icps
+  aenv linseg 0, 0.006, 1, p3 - 0.056, 0.95, 0.05, 0
+  gaBass = gaBass + (agrowl * 0.52 + asub * 0.42) * aenv * p4
+endin
+
+; Sub: the lowest octave alone.
+instr Sub
+  p3 = p3 + 0.06
+  asub oscili 1, cpsmidinn(p5)
+  aenv linseg 0, 0.01, 1, p3 - 0.07, 0.9, 0.06, 0
+  gaBass = gaBass + tanh(asub * 1.3) * aenv * 0.5 * p4
+endin

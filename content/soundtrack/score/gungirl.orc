@@ -1,0 +1,79 @@
+; Gun Girl, 48 beats: the pieces close in for 4, she stands; at 8 the camera jumps and the groove starts;
+; the background turns at 16, 24, 32 and 40, and something joins each time.
+
+gSGunBass  = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . g1 . g2~ . . bb1 . . c2 ."
+gSGunBass2 = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . ab1 . ab2~ . . f#1 . . f#1 f#1"
+
+instr GunGirl
+  section p4, 0
+
+  ; Pieces close in: faster and faster, all towards one point
+  at 0, "Impact", 2, 0.7, 0, 0.3
+  at 0, "Crash", 3, 0.5
+  at 0, "Riser", 3.96, 0.8, 74, 0.5
+  at 0, "Drone", 4, 0.7, 43, 0.4
+  itick = 0
+  ibeat = 0.25
+  while ibeat < 3.9 do
+    at ibeat, "Tick", 0.1, 0.35 + 0.14 * ibeat, 76 + itick % 5 * 3, itick % 2 == 0 ? 0.1 : 0.9
+    ibeat += 0.42 * (1 - ibeat / 4.2)
+    itick += 1
+  od
+  at 3, "Suck", 1, 0.8
+
+  ; She stands
+  at 4, "Impact", 3, 0.9, 0, 0.8
+  at 4, "Kick", 0.5, 1, 0, 0.5
+  at 4, "Stab", 0.6, 1, 43, 0.7
+  at 4, "Reese", 3.5, 0.8, 31, 0.5
+  at 4, "Faller", 3, 0.7
+  hits 5, 8, "Hat", "..o. ..o. ..oo", 0.6
+  at 6, "Kick", 0.5, 0.8
+  ; The gun is cocked
+  at 7, "Tick", 0.1, 1.4, 62, 0.5
+  at 7.25, "Tick", 0.1, 1.6, 69, 0.5
+  hits 7.5, 8, "Snare", "xX", 0.8, 0, 0.1
+
+  ; Groove
+  at 8, "Crash", 4, 0.7
+  hits 8, 46, "Kick", "X... X... X... X...", 1, 0, 0.1
+  play 8, 24, "Bass", gSGunBass, 0.95, 0, 0.4
+  play 24, 40, "Bass", gSGunBass, 0.95, 0, 0.6
+  play 40, 47, "Bass", gSGunBass2, 0.95, 0, 0.8
+  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.75
+  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.6, 0, 0.15
+  hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
+
+  ; Turn: claps, the gun answers
+  at 16, "Impact", 2, 0.6, 0, 0.4
+  at 16, "Crash", 4, 0.6
+  hits 16, 46, "Clap", ".... X... .... X...", 0.9
+  hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.75
+  play 16, 24, "Zap", ". . . . . . . . . . g4 . . . . . | . . . . . . . . . . bb4 . . c5 . .", 0.45, 0, 0.3
+
+  ; Turn: a stab on the three-three-two
+  at 24, "Impact", 2, 0.6, 0, 0.4
+  at 24, "Crash", 4, 0.6
+  play 24, 40, "Stab", "g2 . . g2 . . . . . . . . . . . . | g2 . . g2 . . bb2 . . . . f2 . . . .", 0.5, 0, 0.35
+  hits 24, 47, "Hat", ".o.. .o.. .o.. .o..", 0.4, 0, 1
+  hits 22, 24, "Tom", "..x. x.xx", 0.7, 43, 0.3
+
+  ; Turn: the theme's first half, low
+  at 32, "Impact", 2, 0.6, 0, 0.4
+  at 32, "Crash", 4, 0.6
+  hits 30, 32, "Snare", "..o. x.xr", 0.7, 0, 0.2
+  play 32, 40, "Lead", gSTheme, 0.7, -12, 0.25
+  play 32, 46, "Ride", "g4 . . . g4 . . . g4 . . . g4 . . .", 0.4
+
+  ; Turn: its second half, a step brighter, and up to the edge
+  at 40, "Impact", 2, 0.7, 0, 0.5
+  at 40, "Crash", 4, 0.6
+  hits 38, 40, "Tom", "x.x. xxxx", 0.7, 38, 0.7
+  play 40, 48, "Lead", "eb5 - - d5 - - c5 - eb5 - - g5 - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.75, -12, 0.5
+  play 40, 46, "Stab", "c3 . . c3 . . eb3 . . . . d3 . . c3 .", 0.45, 0, 0.5
+  at 40, "Riser", 7, 0.7, 79, 0.5
+  hits 44, 46, "Snare", "o.o. o.o.", 0.6, 0, 0.1
+  hits 46, 47, "Snare", "xxXX", 0.9, 0, 0.4
+  hits 46, 47, "Kick", "X.X.", 1, 0, 0.3
+  hush 47, 48
+endin
