@@ -1,0 +1,84 @@
+#include "tools/record/beats.h"
+
+#include "runtime/beatclock.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <sstream>
+
+namespace {
+
+// frames : millibeats = 60 x rate : 1000 x tempo = 3 : 110
+constexpr int frames_part = 3;
+constexpr int beats_part = 110;
+static_assert(60 * recorded_rate * beats_part == one_beat * beats_per_minute * frames_part);
+
+constexpr double most_beats = 9998;
+constexpr std::size_t most_moments = 10000;
+
+std::vector<std::string> split(std::string const& text, char separator) {
+    std::vector<std::string> parts;
+    std::istringstream stream(text + separator);
+    for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
+    return parts;
+}
+
+std::optional<Millibeats> parse_beat(std::string const& text) {
+    if (text.empty() || text.find_first_not_of("0123456789.") != std::string::npos || text == ".") return {};
+    if (std::count(text.begin(), text.end(), '.') > 1) return {};
+    double const beats = std::stod(text);
+    if (beats > most_beats) return {};
+    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is a hair below 3001
+}
+
+/// @return false if there are too many already
+bool add_once(std::vector<Millibeats>& moments, Millibeats at) {
+    if (std::find(moments.begin(), moments.end(), at) != moments.end()) return true;
+    moments.push_back(at);
+    return moments.size() <= most_moments;
+}
+
+bool add_range(std::vector<Millibeats>& moments, std::vector<std::string> const& parts) {
+    auto const from = parse_beat(parts[0]);
+    auto const to = parse_beat(parts[1]);
+    auto const step = parse_beat(parts[2]);
+    if (!from || !to || !step || *step == 0 || *from >= *to) return false;
+    for (Millibeats at = *from; at < *to; at += *step) {
+        if (!add_once(moments, at)) return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int frame_at(Millibeats at) { return (frames_part * at + beats_part - 1) / beats_part; }
+
+bool frame_is_before(int frame, Millibeats moment) { return beats_part * frame < frames_part * moment; }
+
+std::optional<std::vector<Millibeats>> parse_beats(std::string const& text) {
+    std::vector<Millibeats> moments;
+    for (std::string const& item : split(text, ',')) {
+        std::vector<std::string> const parts = split(item, ':');
+        if (parts.size() == 3) {
+            if (!add_range(moments, parts)) return {};
+            continue;
+        }
+        auto const at = parts.size() == 1 ? parse_beat(item) : std::nullopt;
+        if (!at || !add_once(moments, *at)) return {};
+    }
+    return moments;
+}
+
+std::string padded_beat(Millibeats at) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%03d.%03d", at / one_beat, at % one_beat);
+    return text;
+}
+
+std::string short_beat(Millibeats at) {
+    std::string text = std::to_string(at / one_beat);
+    if (at % one_beat == 0) return text;
+    text += padded_beat(at % one_beat).substr(3);
+    return text.substr(0, text.find_last_not_of('0') + 1);
+}

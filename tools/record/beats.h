@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A moment of the show or of a scene in thousandths of a beat: whole numbers, so that nothing is lost in counting.
+using Millibeats = int;
+
+constexpr Millibeats one_beat = 1000;
+
+/// The recorder's frames per second.
+constexpr int recorded_rate = 60;
+
+/// The first frame at or after a moment. At 132 beats a minute and 60 frames a second 11 beats are 300 frames.
+/// @param at  from the show's first beat, 0 or above
+int frame_at(Millibeats at);
+
+/// Whether a frame lies before a moment.
+bool frame_is_before(int frame, Millibeats moment);
+
+/// Reads "0.5,3.25" or "0:16:0.5" (from, to, step; the end is left out), or a list of both.
+/// @param text  decimal numbers from 0 to 9998, cut to three places
+/// @return the moments in their order, every one once; nothing if the text is anything else, a range is empty or more
+/// than
+///         10000 moments are asked for
+std::optional<std::vector<Millibeats>> parse_beats(std::string const& text);
+
+/// A moment as it stands in file names, "012.400".
+std::string padded_beat(Millibeats at);
+
+/// A moment as it stands in labels and messages, "12.4".
+std::string short_beat(Millibeats at);

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <SFML/Graphics/Image.hpp>
+
+/// A picture to draw into on the current OpenGL context: colour in 8 bits a channel, depth in 24 bits, several samples
+/// a pixel. It must not outlive the context.
+class Framebuffer {
+public:
+    Framebuffer() = default;
+    Framebuffer(Framebuffer const&) = delete;
+    Framebuffer& operator=(Framebuffer const&) = delete;
+    ~Framebuffer();
+
+    /// Makes the picture; from then on all drawing goes there, over its whole area.
+    /// @param wide, high  pixels, above 0
+    /// @param per_pixel   samples; 0 or 1 for none beside the pixel's own
+    /// @return false where the driver cannot serve the size or so many samples, see LargestSide and MostSamples
+    bool Create(unsigned int wide, unsigned int high, unsigned int per_pixel);
+
+    /// What the current context's driver allows.
+    static unsigned int LargestSide(); ///< pixels
+    static unsigned int MostSamples();
+
+    /// Resolves the samples.
+    /// @return the picture as drawn so far, opaque, upper row first
+    sf::Image Read() const;
+
+private:
+    struct Target {
+        unsigned int frame = 0;
+        unsigned int color = 0;
+        unsigned int depth = 0;
+    };
+
+    bool CreateTarget(Target& target, unsigned int per_pixel) const;
+    static void Delete(Target& target);
+
+    Target drawn;    ///< what the show draws into
+    Target resolved; ///< one sample a pixel; for reading
+    unsigned int width = 0;
+    unsigned int height = 0;
+};

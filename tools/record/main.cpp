@@ -1,0 +1,134 @@
+#include "effekt/pulsewire.h"
+#include "runtime/datafolder.h"
+#include "tools/record/framebuffer.h"
+#include "tools/record/offscreen.h"
+#include "tools/record/options.h"
+#include "tools/record/playback.h"
+#include "tools/record/runningorder.h"
+#include "tools/record/sheet.h"
+
+#include <SFML/System/Err.hpp>
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iomanip>
+#include <iostream>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// One picture to take.
+struct Shot {
+    int frame;
+    std::string file;  ///< name without the folder
+    std::string label; ///< on the sheet
+};
+
+void print_list(RunningOrder const& order) {
+    std::cout << "name       first beat  beats  title\n";
+    for (ScenePlace const& place : order) {
+        std::cout << std::left << std::setw(11) << place.stem << std::right << std::setw(10) << place.first
+                  << std::setw(7) << place.length << "  " << place.name << '\n';
+    }
+}
+
+Shot make_shot(RunningOrder const& order, RecordOptions const& options, Millibeats asked, Millibeats at) {
+    ScenePlace const& place = *scene_at(order, at);
+    std::string const prefix = options.scene.empty() ? "beat" : place.stem;
+    return {frame_at(at), prefix + "_" + padded_beat(asked), place.name + " " + short_beat(at - place.Begin())};
+}
+
+/// Turns the beats asked for into frames, in their order.
+/// @return false, after a line, if one lies outside of the scene or the show
+bool plan_shots(RunningOrder const& order, RecordOptions const& options, std::vector<Shot>& shots) {
+    ScenePlace const show{"the show", "", 0, order.back().first + order.back().length};
+    ScenePlace const* const scene = options.scene.empty() ? &show : find_scene(order, options.scene);
+    if (!scene) {
+        complain("no scene is called '" + options.scene + "'; there are " + scene_list(order));
+        return false;
+    }
+    int const after = options.frame_after ? 1 : 0;
+    for (Millibeats const asked : options.beats) {
+        Millibeats const at = scene->Begin() + asked;
+        if (!frame_is_before(frame_at(at) + after, scene->End())) {
+            complain("beat " + short_beat(asked) + " lies past the last frame of " + scene->name + ", which has " +
+                     std::to_string(scene->length) + " beats");
+            return false;
+        }
+        Shot shot = make_shot(order, options, asked, at);
+        shots.push_back(shot);
+        if (options.frame_after) shots.push_back({shot.frame + 1, shot.file + "b", shot.label + "b"});
+    }
+    return true;
+}
+
+bool save(sf::Image const& image, fs::path const& path) {
+    if (!image.saveToFile(path.string())) {
+        complain("cannot write " + path.string());
+        return false;
+    }
+    std::cout << path.string() << std::endl;
+    return true;
+}
+
+/// Plays the show up to the last shot; writes pictures as they come and the sheet at the end.
+bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback,
+          Framebuffer const& framebuffer) {
+    std::vector<std::size_t> in_time(shots.size());
+    for (std::size_t i = 0; i < shots.size(); ++i) in_time[i] = i;
+    std::stable_sort(in_time.begin(), in_time.end(),
+                     [&](std::size_t a, std::size_t b) { return shots[a].frame < shots[b].frame; });
+
+    std::vector<SheetCell> cells(shots.size());
+    sf::Image picture;
+    for (std::size_t const i : in_time) {
+        if (playback.NextFrame() <= shots[i].frame) {
+            playback.DrawFrame(shots[i].frame);
+            picture = framebuffer.Read();
+        }
+        if (!options.folder.empty() && !save(picture, fs::path(options.folder) / (shots[i].file + ".png")))
+            return false;
+        if (!options.sheet.empty()) cells[i] = {shrink_for_sheet(picture), shots[i].label};
+    }
+    return options.sheet.empty() || save(make_sheet(cells, options.columns), options.sheet);
+}
+
+int record(RecordOptions const& options) {
+    OffscreenContext context;
+    if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
+    Framebuffer framebuffer;
+    if (!framebuffer.Create(options.width, options.height, options.samples)) {
+        return complain("this driver cannot draw " + std::to_string(options.width) + "x" +
+                        std::to_string(options.height) + " pixels with " + std::to_string(options.samples) +
+                        " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
+                        std::to_string(Framebuffer::MostSamples()) + " samples");
+    }
+    Playback playback;
+    RunningOrder const order = running_order(playback.GetDemo());
+    if (options.list) {
+        print_list(order);
+        return 0;
+    }
+    std::vector<Shot> shots;
+    if (!plan_shots(order, options, shots)) return 1;
+    std::error_code error;
+    if (!options.folder.empty()) fs::create_directories(options.folder, error);
+    if (error) return complain("cannot make the folder " + options.folder + ": " + error.message());
+    return take(shots, options, playback, framebuffer) ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    RecordOptions options;
+    if (auto const status = read_command_line(argc, argv, options)) return *status;
+    sf::err().rdbuf(nullptr); // its complaints about files would double ours
+    setenv(effect::PulseWire::standard_calls_variable, options.wire ? "1" : "0", 1);
+    // The caller's paths are meant from where he stands, not from where the data lies.
+    if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
+    if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
+    if (!enter_data_folder(HARDSILENCE_SHARE)) return complain("cannot find the folder data/");
+    return record(options);
+}

@@ -1,0 +1,100 @@
+#include "tools/record/offscreen.h"
+
+#include <EGL/eglext.h>
+#include <GL/gl.h>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+// One of EGL's extension functions; null where there is none.
+template<typename Function>
+Function entry_point(char const* name) {
+    return reinterpret_cast<Function>(eglGetProcAddress(name));
+}
+
+bool client_has(std::string_view extension) {
+    char const* const all = eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS);
+    return all && std::string_view(all).find(extension) != std::string_view::npos;
+}
+
+// All displays that do without a window system, best first, and the default one.
+std::vector<EGLDisplay> candidates() {
+    std::vector<EGLDisplay> displays;
+    auto const get_display = entry_point<PFNEGLGETPLATFORMDISPLAYEXTPROC>("eglGetPlatformDisplayEXT");
+    if (get_display && client_has("EGL_MESA_platform_surfaceless")) {
+        displays.push_back(get_display(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr));
+    }
+    auto const query_devices = entry_point<PFNEGLQUERYDEVICESEXTPROC>("eglQueryDevicesEXT");
+    if (get_display && query_devices && client_has("EGL_EXT_platform_device")) {
+        constexpr EGLint most = 16;
+        EGLDeviceEXT devices[most];
+        EGLint count = 0;
+        if (!query_devices(most, devices, &count)) count = 0;
+        for (EGLint i = 0; i < count; ++i) {
+            displays.push_back(get_display(EGL_PLATFORM_DEVICE_EXT, devices[i], nullptr));
+        }
+    }
+    displays.push_back(eglGetDisplay(EGL_DEFAULT_DISPLAY));
+    return displays;
+}
+
+// Every driver serves pbuffers, though not every configuration; the second choice asks for nothing.
+bool choose_config(EGLDisplay display, EGLConfig& config) {
+    constexpr EGLint with_pbuffer[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT,
+                                       EGL_NONE};
+    constexpr EGLint without[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, 0, EGL_NONE};
+    for (EGLint const* wishes : {with_pbuffer, without}) {
+        EGLint count = 0;
+        if (eglChooseConfig(display, wishes, &config, 1, &count) && count > 0) return true;
+    }
+    return false;
+}
+
+} // namespace
+
+OffscreenContext::~OffscreenContext() { Close(); }
+
+bool OffscreenContext::Open() {
+    Close();
+    for (EGLDisplay candidate : candidates()) {
+        if (candidate != EGL_NO_DISPLAY && OpenOn(candidate)) return true;
+    }
+    return false;
+}
+
+bool OffscreenContext::OpenOn(EGLDisplay candidate) {
+    if (!eglInitialize(candidate, nullptr, nullptr)) return false;
+    display = candidate;
+    EGLConfig config = nullptr;
+    if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {
+        // Without a version or a profile asked for, a driver gives the newest one that keeps the fixed functions.
+        context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
+        if (context != EGL_NO_CONTEXT && MakeCurrent(config)) return true;
+    }
+    Close();
+    return false;
+}
+
+bool OffscreenContext::MakeCurrent(EGLConfig config) {
+    if (eglMakeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, context)) return true;
+    constexpr EGLint size[] = {EGL_WIDTH, 16, EGL_HEIGHT, 16, EGL_NONE};
+    surface = eglCreatePbufferSurface(display, config, size);
+    return surface != EGL_NO_SURFACE && eglMakeCurrent(display, surface, surface, context);
+}
+
+void OffscreenContext::Close() {
+    if (display == EGL_NO_DISPLAY) return;
+    eglMakeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    if (surface != EGL_NO_SURFACE) eglDestroySurface(display, surface);
+    if (context != EGL_NO_CONTEXT) eglDestroyContext(display, context);
+    eglTerminate(display);
+    display = EGL_NO_DISPLAY;
+    context = EGL_NO_CONTEXT;
+    surface = EGL_NO_SURFACE;
+}
+
+std::string OffscreenContext::Renderer() {
+    auto const* const name = reinterpret_cast<char const*>(glGetString(GL_RENDERER));
+    return name ? name : "";
+}
