@@ -19,10 +19,10 @@ elbow_r    = [1.50, 1.32];
 wrist_r    = [1.92, 2.55];
 hip_l      = at(pelvis, [-0.44, -0.02]);
 hip_r      = at(pelvis, [0.44, -0.02]);
-knee_l     = [-1.22, -2.22];
-knee_r     = [1.14, -2.34];
-ankle_l    = [-1.66, -4.01];
-ankle_r    = [1.64, -4.01];
+knee_l     = [-1.24, -2.22];
+knee_r     = [1.16, -2.34];
+ankle_l    = [-1.70, -4.01];
+ankle_r    = [1.70, -4.01];
 gun        = frame(wrist_r + [-0.28, 0.37], 87, 0.68);
 
 module trunk() {
@@ -31,7 +31,7 @@ module trunk() {
         all_at(chest, [[-0.22, 1.10], [-0.25, 0.98], [-0.36, 0.83], [-0.58, 0.73], [-0.84, 0.66], [-0.95, 0.40],
                        [-0.76, 0.05], [-0.74, -0.25], [-0.67, -0.55], [-0.58, -0.82]]),
         all_at(pelvis, [[-0.54, 1.18], [-0.57, 0.92], [-0.74, 0.55], [-0.90, 0.20], [-0.97, -0.20],
-                        [-0.9, -0.5], [0.0, -0.52], [0.9, -0.5], [0.97, -0.22],
+                        [-0.9, -0.5], [0.0, -0.45], [0.9, -0.5], [0.97, -0.22],
                         [0.90, 0.16], [0.74, 0.50], [0.56, 0.88], [0.52, 1.16]]),
         all_at(chest, [[0.55, -0.82], [0.66, -0.56], [0.80, -0.36], [0.86, -0.20], [0.80, 0.0], [0.76, 0.12],
                        [0.95, 0.40], [0.84, 0.66], [0.55, 0.75], [0.36, 0.85], [0.27, 1.00], [0.24, 1.12]]),
@@ -65,13 +65,16 @@ module hip_hand() {
 
 // A boot to below the knee: its cuff stands off a little, the shaft follows the calf.
 module boot(knee, ankle, flip, turn) {
-    shaft = [for (row = shin_front) if (row[0] > 0.25 && row[0] < 0.95) row + [0, 0.015, 0.015]];
-    cuff = [0.19, 0.245, 0.225];
+    shaft = [for (row = shin_front) if (row[0] > 0.25) row + max(0, 0.6 - row[0]) * [0, 0.05, 0.05]];
+    cuff = [0.19, 0.228, 0.210];
     fillet(0.06) {
-        limb([knee, ankle], [concat([cuff, cuff, [0.22, 0.235, 0.215]], shaft)], head, flip);
-        place(frame(ankle, flip ? -8 : 8, head, flip)) pump(turn);
+        limb([knee, ankle], [concat([cuff, cuff, [0.23, 0.226, 0.204]], shaft)], head, flip);
+        place(frame(ankle, flip ? -4 : 4, head, flip)) pump(turn);
     }
 }
+
+// In a wide stance the flesh between the thighs closes to an arch.
+thigh_wide = [for (row = thigh_front) row + [0, 0, 0.32 * max(0, 1 - row[0] / 0.45)]];
 
 module figure() {
     fillet(0.03) {
@@ -79,8 +82,8 @@ module figure() {
             trunk();
             limb([shoulder_l, elbow_l, wrist_l], [upper_arm, forearm], head, true);
             limb([shoulder_r, elbow_r, wrist_r], [upper_arm, forearm], head);
-            limb([hip_l, knee_l, ankle_l], [thigh_front, shin_front], head, true);
-            limb([hip_r, knee_r, ankle_r], [thigh_front, shin_front], head);
+            limb([hip_l, knee_l, ankle_l], [thigh_wide, shin_front], head, true);
+            limb([hip_r, knee_r, ankle_r], [thigh_wide, shin_front], head);
         }
         place(frame(wrist_l, -62, head)) hip_hand();
         place(gun) gun_hand();

@@ -101,7 +101,8 @@ function limb_side(joints, profiles, girth, flip, bow, side) =
              [for (row = profiles[i])
                   let (t = row[0], w = row[column] * girth)
                   if ((i == 0 || t >= 0) && (i == bones - 1 || t <= 1) &&
-                      t * length >= w * inward[i] && (1 - t) * length >= w * inward[i + 1])
+                      (inward[i] == 0 || t * length >= w * inward[i]) &&
+                      (inward[i + 1] == 0 || (1 - t) * length >= w * inward[i + 1]))
                       joints[i] + way[i] * t * length + out * w + left_of(way[i]) * bow[i] * 4 * t * (1 - t)])];
 bony = 1.22;
 function turn_away(u, v, side) = (u[0] * v[1] - u[1] * v[0]) * side < 0 ? angle_between(u, v) : 0;

@@ -1,0 +1,62 @@
+// First dancer, from behind: the weight on her right leg, that hip pushed out, the elbow above it raised
+// with the hand in her hair, the face turned over the other shoulder.
+use <lib/figure.scad>
+include <lib/anatomy.scad>
+
+head = 1.10;
+
+// Joints. Left and right are those of the picture.
+pelvis     = frame([1.36, 0.06], 10, head);
+chest      = frame([1.06, 2.08], -8, head);
+skull      = frame([0.90, 3.30], -8, head, true);
+shoulder_l = at(chest, [-0.70, 0.42]);
+shoulder_r = at(chest, [0.64, 0.60]);
+elbow_l    = [-0.30, 1.30];
+wrist_l    = [0.14, 0.10];
+elbow_r    = [2.60, 3.62];
+wrist_r    = [1.50, 3.84];
+hip_l      = at(pelvis, [-0.38, -0.02]);
+hip_r      = at(pelvis, [0.42, 0.0]);
+knee_l     = [1.02, -2.02];
+knee_r     = [1.72, -1.98];
+ankle_l    = [0.40, -3.62];
+ankle_r    = [1.62, -3.82];
+
+module trunk() {
+    contour(concat(
+        all_at(chest, [[-0.22, 1.05], [-0.25, 0.86], [-0.44, 0.70], [-0.70, 0.60], [-0.80, 0.36],
+                       [-0.64, 0.02], [-0.60, -0.28], [-0.52, -0.66]]),
+        all_at(pelvis, [[-0.48, 1.00], [-0.54, 0.80], [-0.68, 0.48], [-0.80, 0.18], [-0.84, -0.16],
+                        [-0.7, -0.5], [0, -0.46], [0.7, -0.5], [0.90, -0.20],
+                        [0.89, 0.12], [0.78, 0.42], [0.62, 0.70]]),
+        all_at(chest, [[0.56, -0.74], [0.52, -0.52], [0.58, -0.22], [0.66, 0.06], [0.74, 0.36], [0.72, 0.70],
+                       [0.46, 0.78], [0.27, 0.90], [0.22, 1.05]])));
+}
+
+// Long and wavy, down her back.
+module hair() {
+    contour(all_at(skull, [[0.34, 0.80], [0.37, 0.95], [0.23, 1.05], [0.0, 1.08], [-0.28, 1.03], [-0.50, 0.88],
+                           [-0.61, 0.64], [-0.60, 0.38], [-0.66, 0.12], [-0.78, -0.10], [-0.80, -0.34],
+                           [-0.74, -0.60], [-0.4, -0.9], [0.0, -0.7],
+                           [0.10, -0.50], [0.02, -0.20], [-0.06, 0.10], [0.02, 0.40], [0.16, 0.70]]));
+}
+
+module figure() {
+    fillet(0.03) {
+        fillet(0.10) {
+            trunk();
+            limb([shoulder_l, elbow_l, wrist_l], [upper_arm, forearm], head, true);
+            limb([shoulder_r, elbow_r, wrist_r], [upper_arm, forearm], head, true);
+            limb([hip_l, knee_l, ankle_l], [thigh_front, shin_front], head, true);
+            limb([hip_r, knee_r, ankle_r], [thigh_front, shin_front], head);
+        }
+        fillet(0.06) place(frame(ankle_l, -14, head, true)) pump(20);
+        fillet(0.06) place(frame(ankle_r, 0, head)) pump(45);
+    }
+    place(frame(wrist_l, -62, head)) hand(thumb = [14, -10]);
+    place(frame(wrist_r, 170, head)) hand();
+    place(skull) head_profile();
+    hair();
+}
+
+silhouette() figure();
