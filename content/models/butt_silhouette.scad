@@ -19,7 +19,7 @@ hip_l      = at(pelvis, [-0.38, -0.02]);
 hip_r      = at(pelvis, [0.42, 0.0]);
 knee_l     = [1.02, -2.02];
 knee_r     = [1.72, -1.98];
-ankle_l    = [0.40, -3.62];
+ankle_l    = [0.44, -3.60];
 ankle_r    = [1.62, -3.82];
 
 module trunk() {
@@ -29,8 +29,8 @@ module trunk() {
         all_at(pelvis, [[-0.48, 1.00], [-0.54, 0.80], [-0.68, 0.48], [-0.80, 0.18], [-0.84, -0.16],
                         [-0.7, -0.5], [0, -0.46], [0.7, -0.5], [0.90, -0.20],
                         [0.89, 0.12], [0.78, 0.42], [0.62, 0.70]]),
-        all_at(chest, [[0.56, -0.74], [0.52, -0.52], [0.58, -0.22], [0.66, 0.06], [0.74, 0.36], [0.72, 0.70],
-                       [0.46, 0.78], [0.27, 0.90], [0.22, 1.05]])));
+        all_at(chest, [[0.56, -0.74], [0.52, -0.52], [0.58, -0.22], [0.66, 0.06], [0.77, 0.36], [0.92, 0.62], [0.76, 0.84],
+                       [0.48, 0.80], [0.27, 0.90], [0.22, 1.05]])));
 }
 
 // Long and wavy, down her back.
@@ -50,7 +50,7 @@ module figure() {
             limb([hip_l, knee_l, ankle_l], [thigh_front, shin_front], head, true);
             limb([hip_r, knee_r, ankle_r], [thigh_front, shin_front], head);
         }
-        fillet(0.06) place(frame(ankle_l, -14, head, true)) pump(20);
+        fillet(0.06) place(frame(ankle_l, 16, head, true)) pump(20);
         fillet(0.06) place(frame(ankle_r, 0, head)) pump(45);
     }
     place(frame(wrist_l, -62, head)) hand(thumb = [14, -10]);

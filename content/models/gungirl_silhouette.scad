@@ -14,7 +14,7 @@ skull      = frame([0.10, 3.46], 3, 1.2);
 shoulder_l = at(chest, [-0.82, 0.50]);
 shoulder_r = at(chest, [0.80, 0.50]);
 elbow_l    = [-1.98, 1.72];
-wrist_l    = [-1.06, 0.82];
+wrist_l    = [-1.08, 0.84];
 elbow_r    = [1.50, 1.32];
 wrist_r    = [1.92, 2.55];
 hip_l      = at(pelvis, [-0.44, -0.02]);
@@ -65,16 +65,16 @@ module hip_hand() {
 
 // A boot to below the knee: its cuff stands off a little, the shaft follows the calf.
 module boot(knee, ankle, flip, turn) {
-    shaft = [for (row = shin_front) if (row[0] > 0.25) row + max(0, 0.6 - row[0]) * [0, 0.05, 0.05]];
-    cuff = [0.19, 0.228, 0.210];
+    shaft = [for (row = shin_front) if (row[0] > 0.5) row + [0, 0.01, 0.01]];
+    cuff = [0.17, 0.238, 0.222];
     fillet(0.06) {
-        limb([knee, ankle], [concat([cuff, cuff, [0.23, 0.226, 0.204]], shaft)], head, flip);
+        limb([knee, ankle], [concat([cuff, cuff, [0.30, 0.238, 0.216], [0.42, 0.214, 0.212]], shaft)], head, flip);
         place(frame(ankle, flip ? -4 : 4, head, flip)) pump(turn);
     }
 }
 
 // In a wide stance the flesh between the thighs closes to an arch.
-thigh_wide = [for (row = thigh_front) row + [0, 0, 0.32 * max(0, 1 - row[0] / 0.45)]];
+thigh_wide = [for (row = thigh_front) row + [0, 0, 0.20 * max(0, 1 - row[0] / 0.45)]];
 
 module figure() {
     fillet(0.03) {

@@ -20,9 +20,9 @@ ankle_back = [-0.08, -3.75];
 module trunk() {
     contour(concat(
         all_at(skull, [[-0.28, 0.20]]),
-        all_at(chest, [[-0.20, 0.82], [-0.36, 0.56], [-0.44, 0.24], [-0.40, -0.10], [-0.33, -0.40]]),
-        all_at(pelvis, [[-0.26, 0.84], [-0.33, 0.58], [-0.50, 0.32], [-0.62, 0.06], [-0.61, -0.20], [-0.46, -0.42],
-                        [-0.24, -0.48], [0.1, -0.3], [0.36, 0.05], [0.42, 0.32], [0.40, 0.60]]),
+        all_at(chest, [[-0.20, 0.82], [-0.36, 0.56], [-0.44, 0.24], [-0.41, -0.06], [-0.34, -0.36]]),
+        all_at(pelvis, [[-0.27, 0.74], [-0.36, 0.52], [-0.50, 0.28], [-0.58, 0.04], [-0.57, -0.20], [-0.45, -0.42],
+                        [-0.24, -0.50], [0.1, -0.3], [0.36, 0.05], [0.42, 0.32], [0.40, 0.60]]),
         all_at(chest, [[0.24, -0.60], [0.30, -0.36], [0.46, -0.20], [0.55, -0.02], [0.47, 0.20], [0.28, 0.48],
                        [0.14, 0.72]]),
         all_at(skull, [[0.12, 0.08]])));
@@ -40,8 +40,8 @@ module figure() {
     fillet(0.03) {
         fillet(0.08) {
             trunk();
-            limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head);
-            limb([hip_back, knee_back, ankle_back], [thigh_side, shin_side], head);
+            limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, bow = [0.04, -0.03]);
+            limb([hip_back, knee_back, ankle_back], [thigh_side, shin_side], head, bow = [0.05, -0.06]);
             limb([shoulder, elbow, wrist], [upper_arm, forearm], head, true);
         }
         place(frame(ankle, 0, head)) pump();

@@ -7,10 +7,10 @@ head = 0.93;
 
 pelvis     = frame([0.92, -0.10], 10, head, true); // origin in the hip joint; forward is to the left
 chest      = frame([0.84, 1.46], -16, head, true);
-skull      = frame([0.94, 2.36], -30, head, true);
+skull      = frame([0.96, 2.36], -38, head, true);
 shoulder   = at(chest, [0.02, 0.42]);
-elbow      = [-0.06, 2.60];
-wrist      = [0.14, 3.68];
+elbow      = [0.16, 2.82];
+wrist      = [-0.02, 3.82];
 elbow_back = [1.74, 1.24];                         // the arm behind her
 wrist_back = [2.30, 0.58];
 knee       = [0.66, -1.96];                        // of the leg she stands on
@@ -39,10 +39,10 @@ module skirt() {
 module hair() {
     contour(all_at(skull, [[0.355, 0.80], [0.36, 0.94], [0.20, 1.05], [-0.05, 1.08], [-0.32, 1.02], [-0.52, 0.84],
                            [-0.56, 0.60], [-0.48, 0.30], [-0.2, 0.3], [-0.05, 0.5], [0.1, 0.70]]));
-    place(skull) lock([[-0.40, 0.80, 0.12], [-0.62, 0.86, 0.15], [-0.86, 0.70, 0.19], [-1.02, 0.36, 0.20], [-1.22, 0.04, 0.15],
-                       [-1.48, -0.12, 0.08], [-1.70, -0.10, 0.003]]);
-    place(skull) lock([[-0.80, 0.60, 0.12], [-0.95, 0.30, 0.16], [-1.06, -0.05, 0.13],
-                       [-1.24, -0.30, 0.07], [-1.40, -0.36, 0.003]]);
+    place(skull) lock([[-0.36, 0.84, 0.12], [-0.58, 0.98, 0.14], [-0.84, 0.96, 0.18], [-1.10, 0.76, 0.21], [-1.36, 0.62, 0.18],
+                       [-1.66, 0.66, 0.11], [-1.88, 0.82, 0.05], [-2.0, 0.98, 0.003]]);
+    place(skull) lock([[-0.90, 0.86, 0.12], [-1.10, 0.62, 0.16], [-1.36, 0.44, 0.14],
+                       [-1.64, 0.42, 0.07], [-1.84, 0.52, 0.003]]);
 }
 
 module figure() {
@@ -50,7 +50,7 @@ module figure() {
         fillet(0.08) {
             trunk();
             skirt();
-            limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, true);
+            limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, true, [-0.06, 0.05]);
             limb([at(pelvis, [-0.05, 0]), knee_back, ankle_back], [thigh_side, shin_side], head, true);
             limb([shoulder, elbow, wrist], [upper_arm, forearm], head);
             limb([shoulder, elbow_back, wrist_back], [upper_arm, forearm], head);

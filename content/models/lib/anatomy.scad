@@ -6,10 +6,10 @@
 
 // Seen from before or behind, left is the outer side: the thigh's long outer sweep, the calf's belly
 // higher outside than inside, the ankle bone lower outside.
-thigh_front = [[0.00, 0.43, 0.36], [0.14, 0.435, 0.385], [0.30, 0.390, 0.370], [0.50, 0.305, 0.295],
+thigh_front = [[0.00, 0.43, 0.36], [0.14, 0.435, 0.385], [0.30, 0.390, 0.370], [0.50, 0.318, 0.290],
                [0.72, 0.225, 0.218], [0.86, 0.185, 0.190], [0.95, 0.172, 0.188]];
-shin_front  = [[0.04, 0.160, 0.180], [0.15, 0.185, 0.168], [0.28, 0.220, 0.190], [0.40, 0.208, 0.212],
-               [0.56, 0.150, 0.172], [0.76, 0.096, 0.104], [0.90, 0.086, 0.086], [1.02, 0.088, 0.088]];
+shin_front  = [[0.04, 0.160, 0.180], [0.15, 0.185, 0.168], [0.28, 0.216, 0.192], [0.40, 0.205, 0.205],
+               [0.56, 0.155, 0.165], [0.76, 0.100, 0.106], [0.90, 0.086, 0.086], [1.02, 0.088, 0.088]];
 
 // Seen from the side, walking to the right, left of a leg that hangs down is its front: the thigh is
 // full before, hollow behind the knee; the shin runs straight, the calf swells and thins to the tendon.
