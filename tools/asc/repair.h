@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tools/asc/mesh.h"
+
+namespace asc {
+
+/// Points nearer to each other than this become one vertex, units.
+inline constexpr double weld_distance = 1e-5;
+
+/// Rounds coordinates to what a file keeps, joins vertices within `weld_distance`, drops faces without area, faces
+/// that stand twice and vertices that no face uses. A face whose corners lie on one line is not simply dropped: the
+/// neighbour across its longest side is split in two, so that no gap opens.
+void clean(Object& object);
+
+/// Turns the faces so that neighbours agree; then a closed part looks outward, a flat part of normal along z looks
+/// to +z, and any other open part keeps the side that its first face looked to.
+void wind(Object& object);
+
+/// Keeps only the faces that lie wholly in the mesh's lowest plane z = const: the shape of a thin extrusion.
+void keep_lowest_plane(Object& object);
+
+/// Moves the object so that the middle of its box lies at `middle`.
+void centre(Object& object, Vec3 middle);
+
+} // namespace asc
