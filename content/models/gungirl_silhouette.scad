@@ -5,7 +5,8 @@ use <lib/figure.scad>
 include <lib/anatomy.scad>
 use <lib/pistol.scad>
 
-head = 1.17; // height of the head: the unit of the anatomy
+$tol = 0.0014; // coarser than usual: the figure is shattered, and every vertex of its outline makes pieces
+head = 1.17;   // height of the head: the unit of the anatomy
 
 // Joints. Left and right are those of the picture.
 pelvis     = frame([-0.12, 0.00], -5);
@@ -29,11 +30,11 @@ module trunk() {
     contour(concat(
         all_at(skull, [[-0.30, 0.20]]),
         all_at(chest, [[-0.22, 1.10], [-0.25, 0.98], [-0.36, 0.83], [-0.58, 0.73], [-0.84, 0.66], [-0.95, 0.40],
-                       [-0.76, 0.05], [-0.74, -0.25], [-0.67, -0.55], [-0.58, -0.82]]),
-        all_at(pelvis, [[-0.54, 1.18], [-0.57, 0.92], [-0.74, 0.55], [-0.90, 0.20], [-0.97, -0.20],
+                       [-0.76, 0.05], [-0.74, -0.25], [-0.67, -0.52], [-0.60, -0.80]]),
+        all_at(pelvis, [[-0.53, 1.04], [-0.71, 0.62], [-0.89, 0.22], [-0.97, -0.20],
                         [-0.9, -0.5], [0.0, -0.45], [0.9, -0.5], [0.97, -0.22],
-                        [0.90, 0.16], [0.74, 0.50], [0.56, 0.88], [0.52, 1.16]]),
-        all_at(chest, [[0.55, -0.82], [0.66, -0.56], [0.80, -0.36], [0.86, -0.20], [0.80, 0.0], [0.76, 0.12],
+                        [0.90, 0.16], [0.74, 0.52], [0.55, 0.98]]),
+        all_at(chest, [[0.53, -0.86], [0.63, -0.58], [0.79, -0.36], [0.86, -0.20], [0.80, 0.0], [0.76, 0.12],
                        [0.95, 0.40], [0.84, 0.66], [0.55, 0.75], [0.36, 0.85], [0.27, 1.00], [0.24, 1.12]]),
         all_at(skull, [[0.15, 0.08]])));
 }
@@ -59,8 +60,8 @@ module gun_hand() {
              [-0.50, -0.72], [-0.66, -0.62]]);
 }
 module hip_hand() {
-    contour([[-0.10, 0.075], [0.02, 0.075], [0.15, 0.12], [0.32, 0.12], [0.46, 0.06], [0.52, -0.06], [0.42, -0.14],
-             [0.20, -0.13], [0.02, -0.08], [-0.10, -0.075]]);
+    contour([[-0.12, 0.060], [0.04, 0.064], [0.20, 0.10], [0.36, 0.10], [0.50, 0.04], [0.56, -0.06],
+             [0.46, -0.14], [0.22, -0.125], [0.04, -0.070], [-0.12, -0.060]]);
 }
 
 // A boot to below the knee: its cuff stands off a little, the shaft follows the calf.
@@ -85,16 +86,16 @@ module figure() {
             limb([hip_l, knee_l, ankle_l], [thigh_wide, shin_front], head, true);
             limb([hip_r, knee_r, ankle_r], [thigh_wide, shin_front], head);
         }
-        place(frame(wrist_l, -62, head)) hip_hand();
-        place(gun) gun_hand();
+        place(frame(wrist_l, -56, head)) hip_hand();
+        place(gun, $tol = 0.004) gun_hand();
     }
-    boot(knee_l, ankle_l, true, 30);
-    boot(knee_r, ankle_r, false, 40);
-    place(skull) head_profile();
+    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
+    boot(knee_r, ankle_r, false, 40, $tol = 0.003);
+    place(skull, $tol = 0.002) head_profile();
     hair();
-    boot(knee_l, ankle_l, true, 30);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
     boot(knee_r, ankle_r, false, 42);
-    place(gun) pistol();
+    place(gun, $tol = 0.004) pistol();
 }
 
 silhouette() figure();

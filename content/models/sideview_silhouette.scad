@@ -47,7 +47,7 @@ module hair() {
 
 module figure() {
     fillet(0.03) {
-        fillet(0.08) {
+        fillet(0.06) {
             trunk();
             skirt();
             limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, true, [-0.06, 0.05]);

@@ -3,9 +3,10 @@
 //
 // Curves are centripetal Catmull-Rom splines through the points given. A point written twice in a row
 // is a corner: the curve ends there and starts anew. Sampling follows the shape: a span gets as many
-// steps as keep the chord within $tol of the curve, so long calm lines cost few vertices.
+// steps as keep the chord within tolerance() of the curve, so long calm lines cost few vertices. A model sets
+// $tol for a coarser or finer outline than usual.
 
-$tol = 0.001; // greatest distance between chord and curve, in the model's units
+function tolerance() = is_undef($tol) ? 0.001 : $tol; // in the model's units
 
 // ---- vectors ---------------------------------------------------------------------------------------
 
@@ -46,7 +47,7 @@ function span(p0, p1, p2, p3) =
          ta = slope(p0, p1, p2) * d,
          tb = slope(p1, p2, p3) * d,
          bend = angle_between(ta, p2 - p1) + angle_between(p2 - p1, tb),
-         n = clamp(ceil(sqrt(norm(p2 - p1) * bend * PI / 180 / (8 * $tol))), 1, 24))
+         n = clamp(ceil(sqrt(norm(p2 - p1) * bend * PI / 180 / (8 * tolerance()))), 1, 24))
     [for (k = [0 : n - 1]) hermite(p1, p2, ta, tb, k / n)];
 
 // The curve through points: closed, or from the first to the last.
@@ -118,7 +119,7 @@ module chain(points) {
         }
 }
 module disc(p) {
-    translate([p[0], p[1]]) circle(r = p[2], $fn = clamp(ceil(180 / acos(1 - min($tol / p[2], 0.5))), 8, 48));
+    translate([p[0], p[1]]) circle(r = p[2], $fn = clamp(ceil(180 / acos(1 - min(tolerance() / p[2], 0.5))), 8, 48));
 }
 
 // A lock of hair or a ribbon: pointed at its end, points are [x, y, half width].
@@ -134,8 +135,12 @@ module lock(points) {
 
 // ---- finish ----------------------------------------------------------------------------------------
 
-// Fills creases with a fillet of radius r and leaves what sticks out as it is.
-module fillet(r) { offset(r = -r, $fs = 0.02, $fa = 12) offset(r = r, $fs = 0.02, $fa = 12) children(); }
+// Fills creases with a fillet of radius r. The filled copy lies a hair inside the shape, so that the shape's
+// own outline stays as it is, point by point, wherever there is no crease.
+module fillet(r) {
+    children();
+    offset(delta = -2 * tolerance()) offset(r = -r, $fs = 0.03, $fa = 20) offset(delta = r) children();
+}
 // Takes the edge off whatever sticks out.
 module rounded(r) { offset(r = r, $fs = 0.02, $fa = 12) offset(r = -r, $fs = 0.02, $fa = 12) children(); }
 
