@@ -46,7 +46,7 @@ TEST(SoundtrackSections, DifferFromTheirNeighboursInLevelAndInSpectrum) {
     for (std::size_t i = 1; i < all.size(); ++i) {
         SCOPED_TRACE(testing::Message() << soundtrack::sections()[i - 1].name << " and "
                                         << soundtrack::sections()[i].name);
-        EXPECT_GT(std::abs(all[i].level - all[i - 1].level), 0.5);
+        EXPECT_GT(std::abs(all[i].level - all[i - 1].level), 1);
         EXPECT_GT(distance(all[i], all[i - 1]), 1.5);
     }
 }

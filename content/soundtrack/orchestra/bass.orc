@@ -41,3 +41,31 @@ instr Sub
   aenv linseg 0, 0.01, 1, p3 - 0.07, 0.9, 0.06, 0
   gaBass = gaBass + tanh(asub * 1.3) * aenv * 0.5 * p4
 endin
+
+; Growl: a voice from the basement. Two formants slide from one vowel to another while the note lasts.
+; tone: where they start, 0 (oo to ah) to 1 (ee to oh).
+instr Growl
+  p3 = p3 + 0.04
+  icps = cpsmidinn(p5)
+  a1 vco2 0.5, icps
+  a2 vco2 0.5, icps * 1.011, 0, 0.5, 0.4
+  a3 vco2 0.4, icps * 0.5, 10, 0.5, 0.2
+  asource = tanh((a1 + a2 + a3) * 3)
+  ifirst1 = 320 - 40 * p6
+  ifirst2 = 700 + 1500 * p6
+  ilast1 = 720 - 260 * p6
+  ilast2 = 1250 - 350 * p6
+  k1 expseg ifirst1, p3 * 0.7, ilast1, 10, ilast1
+  k2 expseg ifirst2, p3 * 0.7, ilast2, 10, ilast2
+  avowel1 reson asource, k1, k1 * 0.22, 1
+  avowel2 reson asource, k2, k2 * 0.16, 1
+  adeep butterlp asource, 160
+  agrowl = tanh(avowel1 * 3.2 + avowel2 * 3.6 + adeep * 0.8)
+  agrowl butterhp agrowl, 75
+  aenv linseg 0, 0.004, 1, p3 - 0.044, 0.85, 0.04, 0
+  aout = agrowl * aenv * p4
+  gaBass = gaBass + aout * 0.34
+  aside delay aout, 0.009
+  aside butterhp aside, 300
+  ducked aside * 0.1, -aside * 0.1, 0.05, 0.04
+endin

@@ -6,7 +6,7 @@ giPlainFader = 1.55 ; drums, impacts, room and echo
 giSynthFader = 2.15 ; what ducks
 giWidth      = 1.5 ; the sides against the middle
 giDrive      = 0.78 ; into the soft clip: how loud the piece is
-giCeiling    = 0.70 ; the limiter's ceiling, of full scale; leaves room for what Vorbis adds
+giCeiling    = 0.685 ; the limiter's ceiling, of full scale; leaves room for what Vorbis adds
 giAhead      = 96   ; samples that the limiter looks ahead: whole control periods
 
 ; Peak of one control period, of the samples and of the curve halfway between them (a windowed sinc of six taps;

@@ -147,8 +147,10 @@ opcode play, 0, iiSSpooo
         ishort = (icode == 126) ? 0.5 : ishort
         ilast += 1
       od
-      ibeat = ifrom + iindex * istep + swing(iindex, istep)
-      ibeats = min((isteps == 1 ? 0.9 * ishort : isteps) * istep, ito - ibeat)
+      ilate = swing(iindex, istep)
+      ibeat = ifrom + iindex * istep + ilate
+      ; A note ends where its last step ends on the straight grid, single steps a little before
+      ibeats = min((isteps == 1 ? 0.85 * ishort : isteps) * istep - ilate, ito - ibeat)
       icode = 43
       while icode == 43 do
         inote, ipos notename Snotes, ipos

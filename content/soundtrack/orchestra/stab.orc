@@ -21,14 +21,15 @@ instr Stab
   ducked aleft, aright, 0.15, 0.12
 endin
 
-; Accent: a bright cluster, not ducked, for the fountain's four flashes. p5 root, tone: place, 0 left, 1 right.
+; Accent: one note in three octaves that pushes the synths aside, for the fountain's four flashes.
+; tone: place, 0 left, 1 right.
 instr Accent
   p3 = 0.3
   icps = cpsmidinn(p5)
   schedule "Duck", 0, 0.34, 0.55 * p4
   a1 vco2 0.4, icps
-  a2 vco2 0.4, icps * 1.4983 * 1.004, 0, 0.5, 0.3
-  a3 vco2 0.4, icps * 2.006, 0, 0.5, 0.6
+  a2 vco2 0.4, icps * 2.006, 0, 0.5, 0.3
+  a3 vco2 0.3, icps * 0.497, 10, 0.5, 0.6
   kcut expseg 11000, 0.09, 2200, 0.2, 700, 10, 500
   asaw moogladder2 tanh((a1 + a2 + a3) * 1.8), kcut, 0.2
   anoise hiss

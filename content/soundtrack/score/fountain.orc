@@ -4,13 +4,13 @@ gSFountainBass = {{ . g1 g1 g1!   . g1 g1 g2!   . g1 g1 g1!   . g1 g2 g1!  |
                     . c2 c2 c2!   . c2 c2 c2!   . c2 c2 c2!   . c2 c2 bb1! |
                     . ab1 ab1 ab1! . ab1 ab1 ab2! . d2 d2 d2!  . d2 d2 f#1! }}
 
-; The four flashes from `ibeat`: a falling arpeggio of blows across the room
-opcode flashes, 0, iii
-  ibeat, iroot, ilevel xin
-  isteps[] fillarray 12, 7, 3, 0
+; The four flashes of a bar: its chord falls across the room, a fifth of a beat apart. The bar is counted from 0.
+opcode flashes, 0, iio
+  ibar, ilevel, itranspose xin
+  inotes[] fillarray 79, 74, 70, 67, 79, 75, 70, 67, 79, 75, 72, 67, 80, 75, 72, 68
   iflash = 0
   while iflash < 4 do
-    at ibeat + 0.2 * iflash, "Accent", 0.3, ilevel, iroot + isteps[iflash], iflash / 3
+    at 4 * ibar + 0.2 * iflash, "Accent", 0.3, ilevel, inotes[4 * (ibar % 4) + iflash] + itranspose, iflash / 3
     iflash += 1
   od
 endop
@@ -20,10 +20,9 @@ instr Fountain
   at 0, "Impact", 4, 1, 0, 1
 
   ; Every four beats: flashes on the chord of the bar
-  iroots[] fillarray 55, 55, 60, 56
   ibar = 0
   while ibar < 16 do
-    flashes 4 * ibar, iroots[ibar % 4] + (ibar < 12 ? 0 : 2), 0.9
+    flashes ibar, 0.9, ibar < 12 ? 0 : 2
     ibar += 1
   od
 
@@ -70,10 +69,10 @@ instr Fountain
   play 0, 32,  "Lead", gSTheme, 0.85, 0, 0.7
   play 0, 32,  "Wail", gSTheme, 0.75, 12, 0.7
   play 16, 32, "Arp", gSArp, 0.5, 0, 0.5
-  play 16, 32, "Stab", "g2 . . . . . g2 . . . . . . . . . | g2 . . . . . g2 . . . . . . . . . | c3 . . . . . c3 . . . . . . . . . | ab2 . . . . . . . d3 . . . . . . .", 0.4, 0, 0.6
+  play 16, 32, "Stab", "g2 . . . . . g2 . . . . . . . . . | g2 . . . . . g2 . . . . . . . . . | c3 . . . . . c3 . . . . . . . . . | f2 . . . . . f2 . . . . . . . . .", 0.4, 0, 0.6
 
   play 32, 48, "Lead", gSTheme, 0.85, -12, 0.9
-  play 33, 48, "Wail", gSTheme, 0.7, 12, 0.5
+  play 33, 48, "Wail", gSTheme, 0.5, 12, 0.5
   play 32, 48, "Arp", gSArp, 0.55, 12, 0.6
   play 32, 48, "Choir", gSChords, 0.6, 12, 0.8, 1
 

@@ -7,10 +7,9 @@ instr Greets
   at 0, "Crash", 5, 0.6
 
   ; The fountain's four flashes, further and further away
-  iroots[] fillarray 55, 55, 60, 56
   ibar = 0
   while ibar < 8 do
-    flashes 4 * ibar, iroots[ibar % 4], 0.42 * (0.72 ^ ibar)
+    flashes ibar, 0.42 * (0.72 ^ ibar)
     ibar += 1
   od
 

@@ -5,7 +5,7 @@ gSGunBass  = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . g1 . g2~ 
 gSGunBass2 = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . ab1 . ab2~ . . f#1 . . f#1 f#1"
 
 instr GunGirl
-  section p4, 0
+  section p4, 0.4
 
   ; Pieces close in: faster and faster, all towards one point
   at 0, "Impact", 2, 0.7, 0, 0.3
@@ -37,11 +37,11 @@ instr GunGirl
   ; Groove
   at 8, "Crash", 4, 0.7
   hits 8, 46, "Kick", "X... X... X... X...", 1, 0, 0.1
-  play 8, 24, "Bass", gSGunBass, 0.95, 0, 0.4
-  play 24, 40, "Bass", gSGunBass, 0.95, 0, 0.6
+  play 8, 24, "Bass", gSGunBass, 1.05, 0, 0.6
+  play 24, 40, "Bass", gSGunBass, 1.05, 0, 0.75
   play 40, 47, "Bass", gSGunBass2, 0.95, 0, 0.8
-  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.75
-  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.6, 0, 0.15
+  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.9
+  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.9, 0, 0.4
   hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
 
   ; Turn: claps, the gun answers
@@ -50,6 +50,7 @@ instr GunGirl
   hits 16, 46, "Clap", ".... X... .... X...", 0.9
   hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.75
   play 16, 24, "Zap", ". . . . . . . . . . g4 . . . . . | . . . . . . . . . . bb4 . . c5 . .", 0.45, 0, 0.3
+  play 16, 32, "Growl", ". . . . . . . . . . . . . . . . | . . . . . . . . g1! - . g1 . . ab1 -", 0.8, 0, 0.8
 
   ; Turn: a stab on the three-three-two
   at 24, "Impact", 2, 0.6, 0, 0.4
@@ -70,7 +71,7 @@ instr GunGirl
   at 40, "Crash", 4, 0.6
   hits 38, 40, "Tom", "x.x. xxxx", 0.7, 38, 0.7
   play 40, 48, "Lead", "eb5 - - d5 - - c5 - eb5 - - g5 - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.75, -12, 0.5
-  play 40, 46, "Stab", "c3 . . c3 . . eb3 . . . . d3 . . c3 .", 0.45, 0, 0.5
+  play 40, 46, "Stab", "c3 . . c3 . . g2 . . . . g2 . . c3 .", 0.45, 0, 0.5
   at 40, "Riser", 7, 0.7, 79, 0.5
   hits 44, 46, "Snare", "o.o. o.o.", 0.6, 0, 0.1
   hits 46, 47, "Snare", "xxXX", 0.9, 0, 0.4

@@ -1,8 +1,8 @@
 ; Swapper, 96 beats: six shapes of 16 beats. Four beats of gathering, a flash, the whole shape, then its debris.
 ; Each shape has a bass line and a colour of its own.
 
-gSSwapBass1 = {{ g1! . g1 .   . . g1 g1   . . g1 .    g2~ . g1 .  |
-                 g1! . g1 .   . . g1 g1   . . bb1 .   c2 . bb1 .  }}
+gSSwapBass1 = {{ g1! . g1 g2~  . . g1 g1  . g1 g1 .    g2~ . g1 g1  |
+                 g1! . g1 g2~  . . g1 g1  . g1 bb1 .   c2~ . bb1 f1 }}
 gSSwapBass2 = {{ g1! . g2~ g1 . g1 g2~ .  g1 . g2~ g1 . g1 bb1 .  |
                  eb1! . eb2~ eb1 . eb1 eb2~ . f1 . f2~ f1 . f#1 f#2~ . }}
 gSSwapBass3 = {{ g1! - . g1   - . g1 .    g1! - . g1   - . d2~ .  |
@@ -38,6 +38,7 @@ instr Swapper
   hits 0, 16, "Hat", "ooxo ooxo ooxo oxxr", 0.6
   hits 0, 16, "OpenHat", "..X. ..X. ..X. ..X.", 0.8
   hits 4, 16, "Clap", ".... .... .... ..o.", 0.6
+  play 4, 16, "Tick", "g5 . . d5 . . . g5 . . bb5 . . d5 . .", 0.8, 0, 0.85
   play 0, 16, "Lead", gSTheme, 0.85, 0, 0.4
   play 0, 16, "Stab", "g2 . . . . . g2 . . . . . . . . .", 0.5, 0, 0.4
   hits 15, 16, "Tom", "x.xx", 0.8, 43, 0.2
@@ -49,6 +50,7 @@ instr Swapper
   hits 16, 32, "Hat", "xoXo xoXo xoXo xoXr", 0.5
   hits 20, 32, "OpenHat", "..X. ..X. ..X. ..X.", 0.7
   sweep 16, 32, 0.25, 0.6
+  play 20, 32, "Growl", ". . . . . . . . . . g1! - . bb1 - . | . . . . . . . . . . g1! - . . f#1 -", 0.85, 0, 0.9
   play 20, 32, "Acid", "g3! . . g3 . bb3 . g3! . . f3 . g3! . d4 .", 0.8, 0, 0.4
   play 24, 32, "Stab", ". . g2 . . . g2 . . . bb2 . . . c3 .", 0.55, 0, 0.6
   hits 30, 32, "Snare", ".... o.ox .... xxrr", 0.7, 0, 0.2
@@ -60,6 +62,7 @@ instr Swapper
   play 32, 48, "Bass", gSSwapBass3, 0.95, 0, 0.55
   hits 32, 48, "Hat", "o.xo ooxo o.xo oxxo", 0.6
   hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
+  play 36, 48, "Tick", "g5 . . d5 . . g5 . . . bb5 . d5 . . g5", 0.8, 0, 0.15
   play 32, 48, "Lead", gSTheme, 0.75, 0, 0.6
   play 36, 48, "Wail", "g4 - - g4 - - ab4 - bb4 - - - - - bb4 - | c5 - - g4 - - g4 - c5 - - eb5 - - d5 - | c5 - - - ab4 - - - f#4 - - - d4 - - -", 0.8, 0, 0.5
   play 32, 48, "Pad", gSChords, 0.5, 0, 0.2, 1
@@ -93,6 +96,7 @@ instr Swapper
   hits 68, 80, "Hat", "..Xo ..Xo ..Xo ..Xo", 0.7
   hits 68, 80, "Ride", "..X. ..X. ..X. ..X.", 0.7
   play 64, 80, "Lead", gSTheme, 0.8, -24, 0.9
+  play 64, 80, "Growl", ". . . . g1! - - . . . . . ab1! - f#1 - | . . . . g1! - - . bb1 - ab1 - g1! - f#1 -", 0.8, 0, 0.4
   play 72, 80, "Stab", "g2 . . g2 . . ab2 . . . f#2 . . . f#2 .", 0.6, 0, 0.8
   hits 78, 80, "Tom", "x..x ..x.", 0.9, 36, 0.3
   hits 79, 80, "Snare", "xrxr", 0.7, 0, 0.2
@@ -106,7 +110,7 @@ instr Swapper
   hits 84, 95, "Ride", "X... X... X... X...", 0.6
   play 80, 95, "Lead", gSTheme, 0.8, 0, 0.75
   play 80, 95, "Wail", gSThemeBelow, 0.7, 0, 0.6
-  play 84, 95, "Arp", "g5 eb5 c5 g4 | bb4 eb5 g5 bb5", 0.35, 0, 0.4
+  play 80, 95, "Arp", gSArp, 0.4, 0, 0.4
   play 80, 95, "Pad", gSChords, 0.5, 0, 0.4, 1
   at 88, "Riser", 7, 0.9, 86, 0.6
   hits 92, 94, "Snare", "o.o. o.o. xoxo xoxo", 0.6, 0, 0.2

@@ -15,7 +15,6 @@ instr Tunnel
 
   ; The blow on every beat, flash by flash: high, low
   hits 0, 72, "Kick", "X...", 1, 0, 0.3
-  play 0, 72, "Anvil", "g4! . . . d4 . . . g4! . . . bb4 . . .", 0.75, 0, 0.5
 
   ; Roots: from beat, to beat, semitones up
   ifroms[] fillarray 0, 24, 40, 56
@@ -26,8 +25,9 @@ instr Tunnel
     ifrom = ifroms[istage]
     ito   = itos[istage]
     irise = irises[istage]
-    play ifrom, ito, "Acid", gSTunnelLine, 0.85 + 0.05 * istage, irise, 0.2 + 0.2 * istage
-    hits ifrom, ito, "Rumble", "..xx ..xx ..xx .xxx", 0.4 + 0.1 * istage, 31 + irise, 0.15 * istage
+    play ifrom, ito, "Acid", gSTunnelLine, 0.92 + 0.05 * istage, irise, 0.2 + 0.2 * istage
+    play ifrom, ito, "Anvil", "g4! . . . d4 . . . g4! . . . bb4 . . .", 0.75, irise, 0.5
+    hits ifrom, ito, "Rumble", "..xx ..xx ..xx .xxx", 0.6 + 0.08 * istage, 31 + irise, 0.15 * istage
     if istage > 0 then
       at ifrom, "Impact", 2, 0.8, 0, 0.6
       at ifrom, "Crash", 4, 0.7
