@@ -64,6 +64,14 @@ bool plan_shots(RunningOrder const& order, RecordOptions const& options, std::ve
     return true;
 }
 
+bool make_folder(fs::path const& folder) {
+    if (folder.empty()) return true;
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) complain("cannot make the folder " + folder.string() + ": " + error.message());
+    return !error;
+}
+
 bool save(sf::Image const& image, fs::path const& path) {
     if (!image.saveToFile(path.string())) {
         complain("cannot write " + path.string());
@@ -113,9 +121,7 @@ int record(RecordOptions const& options) {
     }
     std::vector<Shot> shots;
     if (!plan_shots(order, options, shots)) return 1;
-    std::error_code error;
-    if (!options.folder.empty()) fs::create_directories(options.folder, error);
-    if (error) return complain("cannot make the folder " + options.folder + ": " + error.message());
+    if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
     return take(shots, options, playback, framebuffer) ? 0 : 1;
 }
 

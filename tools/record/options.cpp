@@ -24,7 +24,7 @@ constexpr char const* help_text =
 The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it.
 )";
 
-constexpr unsigned int largest_side = 16384; // pixels
+constexpr unsigned int largest_side = 8192; // pixels
 constexpr unsigned int most_samples = 64;
 constexpr unsigned int most_columns = 100;
 
@@ -48,7 +48,7 @@ Fault set_size(RecordOptions& options, std::string const& value) {
     auto const x = std::min(value.find('x'), value.size());
     bool const good = read_number(value.substr(0, x), largest_side, options.width) && x < value.size() &&
                       read_number(value.substr(x + 1), largest_side, options.height);
-    return good && options.width > 0 && options.height > 0 ? nullptr : "a size such as 1024x768, up to 16384x16384";
+    return good && options.width > 0 && options.height > 0 ? nullptr : "a size such as 1024x768, up to 8192x8192";
 }
 
 Fault set_samples(RecordOptions& options, std::string const& value) {
@@ -76,9 +76,16 @@ struct Option {
     Fault (*set)(RecordOptions& options, std::string const& value);
 };
 
-template<auto Flag, bool Value>
-Fault set_flag(RecordOptions& options, std::string const&) {
-    options.*Flag = Value;
+// Two templates, because clang-format 14 loses its way in a table whose entries have commas of their own.
+template<auto Flag>
+Fault switch_on(RecordOptions& options, std::string const&) {
+    options.*Flag = true;
+    return nullptr;
+}
+
+template<auto Flag>
+Fault switch_off(RecordOptions& options, std::string const&) {
+    options.*Flag = false;
     return nullptr;
 }
 
@@ -89,17 +96,17 @@ Fault set_path_option(RecordOptions& options, std::string const& value) {
 
 constexpr Option table[] = {
   // name        value? what it sets
-    {"--beats",                               true,                                    set_beats                          },
-    {                                                                                                                       "--out",                                   true, set_path_option<&RecordOptions::folder>                                   },
-    {                                                                                                               "--sheet", true,                                        set_path_option<&RecordOptions::sheet>                           },
-    {                                                                             "--scene",                                       true,                                                                     set_scene                                                            },
-    {             "--frames",                                       false,                                                                       set_flag<&RecordOptions::frame_after,                                                                          true>},
-    {                                                                                                                                                           "--size",                             true,                              set_size},
-    {                                                                          "--samples",                                   true,                                                      set_samples                                             },
-    {                                                                                                                         "--columns",          true,                                            set_columns                                    },
-    {                                                                                                               "--wire",          false,                                           set_flag<&RecordOptions::wire,                                   true>},
-    {                                                                                                                                           "--no-wire",          false,                                            set_flag<&RecordOptions::wire,        false>},
-    { "--list",                                        false,                                                                        set_flag<&RecordOptions::list,                                                                                                    true>},
+    {"--beats",   true,  set_beats                              },
+    {"--out",     true,  set_path_option<&RecordOptions::folder>},
+    {"--sheet",   true,  set_path_option<&RecordOptions::sheet> },
+    {"--scene",   true,  set_scene                              },
+    {"--frames",  false, switch_on<&RecordOptions::frame_after> },
+    {"--size",    true,  set_size                               },
+    {"--samples", true,  set_samples                            },
+    {"--columns", true,  set_columns                            },
+    {"--wire",    false, switch_on<&RecordOptions::wire>        },
+    {"--no-wire", false, switch_off<&RecordOptions::wire>       },
+    {"--list",    false, switch_on<&RecordOptions::list>        },
 };
 
 Option const* find_option(std::string const& name) {
