@@ -11,7 +11,7 @@ head = 1.17;   // height of the head: the unit of the anatomy
 // Joints. Left and right are those of the picture.
 pelvis     = frame([-0.12, 0.00], -5);
 chest      = frame([0.02, 2.26], 4);
-skull      = frame([0.10, 3.46], 3, 1.2);
+skull      = frame([0.10, 3.43], 3, 1.2);
 shoulder_l = at(chest, [-0.82, 0.50]);
 shoulder_r = at(chest, [0.80, 0.50]);
 elbow_l    = [-1.98, 1.72];
@@ -60,8 +60,8 @@ module gun_hand() {
              [-0.50, -0.72], [-0.66, -0.62]]);
 }
 module hip_hand() {
-    contour([[-0.12, 0.060], [0.04, 0.064], [0.20, 0.10], [0.36, 0.10], [0.50, 0.04], [0.56, -0.06],
-             [0.46, -0.14], [0.22, -0.125], [0.04, -0.070], [-0.12, -0.060]]);
+    contour([[-0.16, 0.045], [0.00, 0.066], [0.20, 0.105], [0.36, 0.10], [0.50, 0.04], [0.56, -0.06],
+             [0.46, -0.14], [0.22, -0.125], [0.00, -0.068], [-0.16, -0.045]]);
 }
 
 // A boot to below the knee: its cuff stands off a little, the shaft follows the calf.
@@ -70,7 +70,8 @@ module boot(knee, ankle, flip, turn) {
     cuff = [0.17, 0.238, 0.222];
     fillet(0.06) {
         limb([knee, ankle], [concat([cuff, cuff, [0.30, 0.238, 0.216], [0.42, 0.214, 0.212]], shaft)], head, flip);
-        place(frame(ankle, flip ? -4 : 4, head, flip)) pump(turn);
+        foot = frame(ankle, flip ? -4 : 4, head, flip);
+        place(foot) pump(turn, lean_to(knee, foot));
     }
 }
 
@@ -89,11 +90,11 @@ module figure() {
         place(frame(wrist_l, -56, head)) hip_hand();
         place(gun, $tol = 0.004) gun_hand();
     }
-    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
-    boot(knee_r, ankle_r, false, 40, $tol = 0.003);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
+    boot(knee_r, ankle_r, false, 40, $tol = 0.002);
     place(skull, $tol = 0.002) head_profile();
     hair();
-    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
     boot(knee_r, ankle_r, false, 42);
     place(gun, $tol = 0.004) pistol();
 }
