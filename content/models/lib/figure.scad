@@ -124,7 +124,7 @@ module disc(p) {
 
 // A lock of hair or a ribbon: pointed at its end, points are [x, y, half width].
 module lock(points) {
-    samples = curve(points, false);
+    samples = curve(points, false, $tol = tolerance() / 2); // its edges bend more than its middle
     n = len(samples);
     function p(i) = [samples[i][0], samples[i][1]];
     function side(i) = left_of(direction(p(min(i + 1, n - 1)) - p(max(i - 1, 0)))) * samples[i][2];
