@@ -1,5 +1,5 @@
 // Parts of a woman's body, in heads: one unit is the height of the head, the figure eight of them.
-// Limb profiles are [t, left, right] tables for bone() of figure.scad, looking down a limb from its
+// Limb profiles are [t, left, right] tables for limb() of figure.scad, looking down a limb from its
 // root; the other parts are drawn in a frame of their own, whose origin and x axis are told with them.
 
 // ---- legs ------------------------------------------------------------------------------------------
