@@ -21,6 +21,8 @@ knee_l     = [1.02, -2.02];
 knee_r     = [1.72, -1.98];
 ankle_l    = [0.44, -3.60];
 ankle_r    = [1.62, -3.82];
+foot_l     = frame(ankle_l, 16, head, true);
+foot_r     = frame(ankle_r, 0, head);
 
 module trunk() {
     contour(concat(
@@ -28,9 +30,9 @@ module trunk() {
         all_at(chest, [[-0.21, 0.98], [-0.26, 0.84], [-0.44, 0.70], [-0.70, 0.60], [-0.80, 0.36],
                        [-0.64, 0.02], [-0.60, -0.28], [-0.52, -0.66]]),
         all_at(pelvis, [[-0.48, 1.00], [-0.54, 0.80], [-0.68, 0.48], [-0.80, 0.18], [-0.84, -0.16],
-                        [-0.7, -0.5], [0, -0.46], [0.55, -0.62], [0.83, -0.42], [0.89, -0.14],
+                        [-0.7, -0.5], [0, -0.46], [0.62, -0.60], [0.79, -0.38], [0.89, -0.12],
                         [0.89, 0.12], [0.78, 0.42], [0.62, 0.70]]),
-        all_at(chest, [[0.56, -0.74], [0.52, -0.52], [0.58, -0.22], [0.64, 0.02], [0.67, 0.22], [0.74, 0.40], [0.78, 0.66],
+        all_at(chest, [[0.56, -0.74], [0.52, -0.52], [0.58, -0.22], [0.63, 0.00], [0.67, 0.22], [0.73, 0.39], [0.80, 0.52], [0.78, 0.72],
                        [0.48, 0.80], [0.30, 0.90], [0.24, 1.04]]),
         all_at(skull, [[-0.28, 0.20]])));
 }
@@ -51,8 +53,8 @@ module figure() {
             limb([hip_l, knee_l, ankle_l], [thigh_front, shin_front], head, true);
             limb([hip_r, knee_r, ankle_r], [thigh_front, shin_front], head);
         }
-        fillet(0.06) place(frame(ankle_l, 16, head, true)) pump(20);
-        fillet(0.06) place(frame(ankle_r, 0, head)) pump(45);
+        place(foot_l) pump(20, lean_to(knee_l, foot_l));
+        place(foot_r) pump(45, lean_to(knee_r, foot_r));
     }
     place(frame(wrist_l, -62, head)) hand(thumb = [14, -10]);
     place(frame(wrist_r, 170, head)) hand();

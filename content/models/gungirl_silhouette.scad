@@ -5,13 +5,13 @@ use <lib/figure.scad>
 include <lib/anatomy.scad>
 use <lib/pistol.scad>
 
-$tol = 0.0014; // coarser than usual: the figure is shattered, and every vertex of its outline makes pieces
+$tol = 0.0007; // coarser than usual: the figure is shattered, and every vertex of its outline makes pieces
 head = 1.17;   // height of the head: the unit of the anatomy
 
 // Joints. Left and right are those of the picture.
 pelvis     = frame([-0.12, 0.00], -5);
 chest      = frame([0.02, 2.26], 4);
-skull      = frame([0.10, 3.46], 3, 1.2);
+skull      = frame([0.10, 3.43], 3, 1.2);
 shoulder_l = at(chest, [-0.82, 0.50]);
 shoulder_r = at(chest, [0.80, 0.50]);
 elbow_l    = [-1.98, 1.72];
@@ -21,9 +21,9 @@ wrist_r    = [1.92, 2.55];
 hip_l      = at(pelvis, [-0.44, -0.02]);
 hip_r      = at(pelvis, [0.44, -0.02]);
 knee_l     = [-1.24, -2.22];
-knee_r     = [1.16, -2.34];
+knee_r     = [1.22, -2.36];
 ankle_l    = [-1.70, -4.01];
-ankle_r    = [1.70, -4.01];
+ankle_r    = [1.68, -4.01];
 gun        = frame(wrist_r + [-0.28, 0.37], 87, 0.68);
 
 module trunk() {
@@ -33,8 +33,8 @@ module trunk() {
                        [-0.76, 0.05], [-0.74, -0.25], [-0.67, -0.52], [-0.60, -0.80]]),
         all_at(pelvis, [[-0.53, 1.04], [-0.71, 0.62], [-0.89, 0.22], [-0.97, -0.20],
                         [-0.9, -0.5], [0.0, -0.45], [0.9, -0.5], [0.97, -0.22],
-                        [0.90, 0.16], [0.74, 0.52], [0.55, 0.98]]),
-        all_at(chest, [[0.53, -0.86], [0.63, -0.58], [0.79, -0.36], [0.86, -0.20], [0.80, 0.0], [0.76, 0.12],
+                        [0.90, 0.16], [0.76, 0.50], [0.60, 0.82], [0.515, 1.12]]),
+        all_at(chest, [[0.555, -0.80], [0.63, -0.58], [0.79, -0.36], [0.86, -0.20], [0.80, 0.0], [0.76, 0.12],
                        [0.95, 0.40], [0.84, 0.66], [0.55, 0.75], [0.36, 0.85], [0.27, 1.00], [0.24, 1.12]]),
         all_at(skull, [[0.15, 0.08]])));
 }
@@ -60,8 +60,8 @@ module gun_hand() {
              [-0.50, -0.72], [-0.66, -0.62]]);
 }
 module hip_hand() {
-    contour([[-0.12, 0.060], [0.04, 0.064], [0.20, 0.10], [0.36, 0.10], [0.50, 0.04], [0.56, -0.06],
-             [0.46, -0.14], [0.22, -0.125], [0.04, -0.070], [-0.12, -0.060]]);
+    contour([[-0.16, 0.045], [0.00, 0.066], [0.20, 0.105], [0.36, 0.10], [0.50, 0.04], [0.56, -0.06],
+             [0.46, -0.14], [0.22, -0.125], [0.00, -0.068], [-0.16, -0.045]]);
 }
 
 // A boot to below the knee: its cuff stands off a little, the shaft follows the calf.
@@ -70,12 +70,13 @@ module boot(knee, ankle, flip, turn) {
     cuff = [0.17, 0.238, 0.222];
     fillet(0.06) {
         limb([knee, ankle], [concat([cuff, cuff, [0.30, 0.238, 0.216], [0.42, 0.214, 0.212]], shaft)], head, flip);
-        place(frame(ankle, flip ? -4 : 4, head, flip)) pump(turn);
+        foot = frame(ankle, flip ? -4 : 4, head, flip);
+        place(foot) pump(turn, lean_to(knee, foot));
     }
 }
 
 // In a wide stance the flesh between the thighs closes to an arch.
-thigh_wide = [for (row = thigh_front) row + [0, 0, 0.20 * max(0, 1 - row[0] / 0.45)]];
+thigh_wide = [for (row = thigh_front) row + [0, 0, 0.22 * pow(max(0, 1 - row[0] / 0.75), 2)]];
 
 module figure() {
     fillet(0.03) {
@@ -89,11 +90,11 @@ module figure() {
         place(frame(wrist_l, -56, head)) hip_hand();
         place(gun, $tol = 0.004) gun_hand();
     }
-    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
-    boot(knee_r, ankle_r, false, 40, $tol = 0.003);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
+    boot(knee_r, ankle_r, false, 40, $tol = 0.002);
     place(skull, $tol = 0.002) head_profile();
     hair();
-    boot(knee_l, ankle_l, true, 30, $tol = 0.003);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
     boot(knee_r, ankle_r, false, 42);
     place(gun, $tol = 0.004) pistol();
 }

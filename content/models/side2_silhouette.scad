@@ -10,12 +10,14 @@ chest    = frame([1.36, 2.02], -24, head);
 skull    = frame([2.02, 3.16], 14, head);
 shoulder = at(chest, [-0.04, 0.40]);
 elbow    = [1.70, 0.86];
-wrist    = [1.90, -0.62];
+wrist    = [1.93, -0.62];
 knee     = [1.78, -1.34];                  // of the bent leg
 ankle    = [1.36, -3.75];
 hip_back   = [0.36, 0.46];                 // the straight leg behind
 knee_back  = [0.28, -1.72];
 ankle_back = [-0.08, -3.75];
+foot       = frame(ankle, 0, head);
+foot_back  = frame(ankle_back, 0, head);
 
 module trunk() {
     contour(concat(
@@ -39,15 +41,17 @@ module hair() {
 module figure() {
     fillet(0.03) {
         fillet(0.08) {
-            trunk();
-            limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, bow = [0.04, -0.03]);
+            fillet(0.2) {
+                trunk();
+                limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, bow = [0.04, -0.03]);
+            }
             limb([hip_back, knee_back, ankle_back], [thigh_side, shin_side], head, bow = [0.05, -0.06]);
             limb([shoulder, elbow, wrist], [upper_arm, forearm], head, true);
         }
-        place(frame(ankle, 0, head)) pump();
-        place(frame(ankle_back, 0, head)) pump();
+        place(foot) pump(0, lean_to(knee, foot));
+        place(foot_back) pump(0, lean_to(knee_back, foot_back));
     }
-    place(frame(wrist, -72, head)) hand([[-6, -14], [-8, -16], [-10, -18], [-12, -20]], [4, -20]);
+    place(frame(wrist, -80, head)) hand([[0, -5], [-1, -5], [-2, -6], [-4, -7]], [10, -8]);
     place(skull) head_profile();
     hair();
 }

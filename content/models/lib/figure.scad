@@ -20,14 +20,6 @@ function clamp(x, lo, hi) = min(max(x, lo), hi);
 function angle_between(a, b) =                       // degrees, 0 to 180
     acos(clamp((a * b) / max(norm(a) * norm(b), 1e-12), -1, 1));
 
-// Where two joints of given lengths must meet: the elbow or knee between a and b, to the left of the
-// way from a to b for side = 1, to the right for side = -1. Out of reach, the limb is straight.
-function joint(a, b, upper, lower, side = 1) =
-    let (d = norm(b - a),
-         along = (upper * upper - lower * lower + d * d) / (2 * d),
-         off = sqrt(max(upper * upper - along * along, 0)))
-    a + direction(b - a) * along + left_of(direction(b - a)) * off * side;
-
 // ---- curves ----------------------------------------------------------------------------------------
 
 function spacing(a, b) = sqrt(norm(b - a));          // centripetal parameter of a span
@@ -105,7 +97,7 @@ function limb_side(joints, profiles, girth, flip, bow, side) =
                       (inward[i] == 0 || t * length >= w * inward[i]) &&
                       (inward[i + 1] == 0 || (1 - t) * length >= w * inward[i + 1]))
                       joints[i] + way[i] * t * length + out * w + left_of(way[i]) * bow[i] * 4 * t * (1 - t)])];
-bony = 1.22;
+bony = 1.22; // how far the bone of a bent joint stands out, in half widths of the limb there
 function turn_away(u, v, side) = (u[0] * v[1] - u[1] * v[0]) * side < 0 ? angle_between(u, v) : 0;
 
 // A chain on a spline: round at both ends, radius interpolated along with the points. Points are
@@ -124,7 +116,7 @@ module disc(p) {
 
 // A lock of hair or a ribbon: pointed at its end, points are [x, y, half width].
 module lock(points) {
-    samples = curve(points, false);
+    samples = curve(points, false, $tol = tolerance() / 2); // its edges bend more than its middle
     n = len(samples);
     function p(i) = [samples[i][0], samples[i][1]];
     function side(i) = left_of(direction(p(min(i + 1, n - 1)) - p(max(i - 1, 0)))) * samples[i][2];
