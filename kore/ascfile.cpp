@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <new>
 #include <utility>
 
@@ -18,6 +19,8 @@ bool contains(std::string_view line, std::string_view keyword) {
 
 /// A line that ends something: empty, or a lone carriage return.
 bool is_short(std::string_view line) { return line.size() < 2; }
+
+bool is_count(long long n) { return n >= 1 && n <= std::numeric_limits<int>::max(); }
 
 /// The text between the quotes of a name line, which ends in a quote and a carriage return.
 std::string_view object_name(std::string_view line) {
@@ -78,11 +81,14 @@ AscFile::Part AscFile::ReadHeader() {
         if (is_short(line)) return Part::Short;
         if (contains(line, "Named object:")) name = object_name(line);
         if (contains(line, "Tri-mesh, Vertices")) {
-            std::sscanf(Terminated(line), "Tri-mesh, Vertices: %d Faces: %d", &vertex_count, &face_count);
-            if (vertex_count < 1 || face_count < 1) {
+            long long counts[2] = {0, 0}; // wide enough for the pattern to tell a count that no int holds
+            std::sscanf(Terminated(line), "Tri-mesh, Vertices: %lld Faces: %lld", &counts[0], &counts[1]);
+            if (!is_count(counts[0]) || !is_count(counts[1])) {
                 Fail("Bad file format");
                 return Part::Fault;
             }
+            vertex_count = static_cast<int>(counts[0]);
+            face_count = static_cast<int>(counts[1]);
             return Part::Done;
         }
     }
@@ -132,21 +138,27 @@ bool AscFile::AddVertex(std::string_view line) {
 
 bool AscFile::AddFace(std::string_view line) {
     if (faces_read == max_faces) return Fail("Bad file format, more than " + std::to_string(max_faces) + " faces.");
-    if (!parse_plain_face(line, face)) {
+    bool const plain = parse_plain_face(line, face);
+    long long corners[3] = {face[0], face[1], face[2]}; // wide, as the counts are
+    if (!plain) {
         int index = 0;
-        std::sscanf(Terminated(line), "Face %d: A:%d B:%d C:%d AB:%d BC:%d CA:%d", &index, &face[0], &face[1], &face[2],
-                    &face[3], &face[4], &face[5]);
+        std::sscanf(Terminated(line), "Face %d: A:%lld B:%lld C:%lld AB:%d BC:%d CA:%d", &index, &corners[0],
+                    &corners[1], &corners[2], &face[3], &face[4], &face[5]);
     }
     for (int corner = 0; corner < 3; ++corner) {
-        if (face[corner] < 0 || face[corner] >= max_vertices) {
-            return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " +
-                        std::to_string(face[corner]) + ".");
-        }
+        if (!IsVertex(corners[corner])) return false;
+        face[corner] = static_cast<int>(corners[corner]);
         work->faces[faces_read][corner] = face[corner];
         work->edges[faces_read][corner] = face[corner + 3];
     }
     ++faces_read;
     return true;
+}
+
+bool AscFile::IsVertex(long long corner) {
+    if (corner >= 0 && corner < max_vertices) return true;
+    return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner) +
+                ".");
 }
 
 bool AscFile::Fail(std::string message) {

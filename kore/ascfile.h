@@ -75,6 +75,7 @@ private:
     Part ReadFaces();
     bool AddVertex(std::string_view line);
     bool AddFace(std::string_view line);
+    bool IsVertex(long long corner);
     bool Fail(std::string message);
     char const* Terminated(std::string_view line);
 

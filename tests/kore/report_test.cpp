@@ -1,0 +1,52 @@
+#include "kore/readfile.h"
+#include "kore/report.h"
+#include "tests/support/temp.h"
+
+#include <csignal>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int complaint_line = __LINE__ + 1;
+void complain() { KORE_ERROR("no boat"); }
+
+TEST(Report, IsOneLineOnStandardOutput) {
+    testing::internal::CaptureStdout();
+    kore::report_error("kore/boat.cpp", 12, "Launch", "no water");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "E: kore/boat.cpp:12, Launch() no water\n");
+}
+
+TEST(Report, NamesItsPlaceRelativeToTheSourceRoot) {
+    testing::internal::CaptureStdout();
+    complain();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "E: tests/kore/report_test.cpp:" + std::to_string(complaint_line) + ", complain() no boat\n");
+}
+
+TEST(Report, OfAHoldingAssertionIsNothing) {
+    int runs = 0;
+    KORE_ASSERT_AT(++runs > 0, "kore/boat.cpp", 1, "f()");
+    EXPECT_EQ(runs, 1); // the asserted expression does its work once
+}
+
+TEST(ReportDeathTest, OfABrokenAssertionIsThePlatformsLine) {
+    EXPECT_EXIT(KORE_ASSERT_AT(2 + 2 == 5, "kore/boat.cpp", 77, "void f(int)"), testing::KilledBySignal(SIGABRT),
+                "kore_test: kore/boat\\.cpp:77: void f\\(int\\): Assertion `2 \\+ 2 == 5' failed\\.");
+}
+
+TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
+    support::TempFolder const temp;
+    std::string const bytes("a\0b\r\n\xff", 6);
+    std::string text;
+    EXPECT_TRUE(kore::read_file(temp.Write("bytes", bytes), text));
+    EXPECT_EQ(text, bytes);
+    for (std::string const& path : {temp.Path("missing"), temp.Path(""), std::string("/dev/null")}) {
+        EXPECT_FALSE(kore::read_file(path, text)) << path;
+        EXPECT_EQ(text, bytes);
+    }
+    EXPECT_TRUE(kore::read_file(temp.Write("empty", ""), text));
+    EXPECT_EQ(text, "");
+}
+
+} // namespace

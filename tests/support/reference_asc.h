@@ -1,0 +1,26 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+/// A second reader of mesh files, as plain as can be: std::getline and sscanf, one line after the other. It is slow,
+/// and it holds no limits; the show's reader must give the same.
+namespace reference {
+
+struct Mesh {
+    std::string name;
+    std::vector<std::array<float, 3>> vertices;
+    std::vector<std::array<int, 3>> faces;
+    std::vector<std::array<int, 3>> edges;
+};
+
+struct File {
+    std::vector<Mesh> meshes; ///< the objects that are complete
+    std::string fault;        ///< the message that reading ends with; "" for none
+};
+
+/// @param text  a whole file
+File read_asc(std::string const& text);
+
+} // namespace reference
