@@ -11,12 +11,11 @@ namespace {
 
 bool lines_are_lost = false;
 
-/// The linker puts this in the place of AscModel::WfByName, and that in the place of real_lookup.
-#define WF_BY_NAME "_ZNK4kore8AscModel8WfByNameERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEERj"
-bool real_lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) asm("__real_" WF_BY_NAME);
-
 } // namespace
 
+// The linker's --wrap puts lookup in the place of AscModel::WfByName, and that in the place of real_lookup.
+#define WF_BY_NAME "_ZNK4kore8AscModel8WfByNameERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEERj"
+bool real_lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) asm("__real_" WF_BY_NAME);
 bool lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) asm("__wrap_" WF_BY_NAME);
 bool lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) {
     return !lines_are_lost && real_lookup(models, name, list);
@@ -37,10 +36,11 @@ constexpr char const* expression = "Assertion `models->WfByName(model_name, myWi
 TEST_F(MissingLinesDeathTest, AreReportedBySimpleModel) {
     EXPECT_NO_FATAL_FAILURE(effect::SimpleModel(models, "thing", ""));
     lines_are_lost = true;
-    EXPECT_DEATH(effect::SimpleModel(models, "thing", ""),
-                 HasSubstr(std::string("effekt/simplemodel.cpp:28: effect::SimpleModel::SimpleModel(kore::AscModel_ptr, "
-                                       "const string&, const string&): ") +
-                           expression));
+    EXPECT_DEATH(
+        effect::SimpleModel(models, "thing", ""),
+        HasSubstr(std::string("effekt/simplemodel.cpp:28: effect::SimpleModel::SimpleModel(kore::AscModel_ptr, "
+                              "const string&, const string&): ") +
+                  expression));
 }
 
 TEST_F(MissingLinesDeathTest, AreReportedByShowModel) {
@@ -55,8 +55,7 @@ TEST_F(MissingLinesDeathTest, MakeTheFileBeLoadedAgainFirst) {
     effect::SimpleModel(models, "thing", "");
     std::filesystem::remove(Root() / "data/thing.asc");
     lines_are_lost = true;
-    EXPECT_DEATH(effect::SimpleModel(models, "thing", ""),
-                 HasSubstr("effekt/simplemodel.cpp:25: "));
+    EXPECT_DEATH(effect::SimpleModel(models, "thing", ""), HasSubstr("effekt/simplemodel.cpp:25: "));
 }
 
 } // namespace

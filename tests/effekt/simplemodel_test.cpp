@@ -145,9 +145,9 @@ TEST_F(SimpleModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
         char const* expression;
     };
     Row const rows[] = {
-        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"            },
-        {"none",  "",            25, R"(models->LoadModel(model_name + ".asc") >= 0)"  },
-        {"thing", "other.asc",   27, R"(models->ModelByName(model_name, myModel))"     },
+        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"          },
+        {"none",  "",            25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
+        {"thing", "other.asc",   27, R"(models->ModelByName(model_name, myModel))"   },
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(row.expression);
