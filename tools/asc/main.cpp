@@ -20,6 +20,7 @@ namespace {
 constexpr char help[] = R"(asc convert [options] [NAME=]IN... -o OUT.asc
     makes a mesh file of model files (OFF, OBJ, STL, glTF ...), one object from each
     --flat              keep only the lowest plane of a thin extrusion
+    --weld DISTANCE     join points nearer than this (default 0.00001)
     --centre X,Y,Z      move the middle of the box there
     --refine SIZE       cut the facets into even triangles with no side longer than SIZE
     --min-angle DEG     smallest angle that --refine allows (0 to 30, default 20)
@@ -156,6 +157,7 @@ int convert(Arguments arguments) {
     auto const out = arguments.value("-o");
     bool const flat = arguments.flag("--flat");
     auto const middle = arguments.numbers("--centre");
+    double const weld = arguments.number("--weld", 1e-6, 1e3).value_or(asc::weld_distance);
     auto const size = arguments.number("--refine", 1e-4, 1e6);
     auto const angle = arguments.number("--min-angle", 0.0, 30.0);
     arguments.no_more_options();
@@ -171,7 +173,7 @@ int convert(Arguments arguments) {
         for (asc::Object& object : some) {
             if (flat) asc::keep_lowest_plane(object);
             if (middle) asc::centre(object, *middle);
-            asc::clean(object);
+            asc::clean(object, weld);
             asc::wind(object);
             if (object.faces.empty()) return failed(input.path + ": nothing is left of object '" + object.name + "'");
             if (size && !asc::refine(object, *size, angle.value_or(20.0)))

@@ -12,15 +12,12 @@ namespace {
 
 using Cell = std::array<long long, 3>;
 
-Cell cell_of(Vec3 p) {
-    constexpr auto at = [](double v) { return std::llround(std::floor(v / weld_distance)); };
-    return {at(p.x), at(p.y), at(p.z)};
-}
-
 /// The vertices kept so far, found by place.
 class Welder {
 public:
-    /// The index of the kept vertex at p; p itself is kept when there is none within `weld_distance`.
+    explicit Welder(double within) : distance(within) {}
+
+    /// The index of the kept vertex at p; p itself is kept when there is none nearer than the distance.
     int index_of(Vec3 p) {
         Cell const c = cell_of(p);
         for (long long i = -1; i <= 1; ++i)
@@ -29,7 +26,7 @@ public:
                     auto const found = cells.find({c[0] + i, c[1] + j, c[2] + k});
                     if (found == cells.end()) continue;
                     for (int at : found->second)
-                        if (length(kept[static_cast<std::size_t>(at)] - p) < weld_distance) return at;
+                        if (length(kept[static_cast<std::size_t>(at)] - p) < distance) return at;
                 }
         kept.push_back(p);
         int const index = static_cast<int>(kept.size()) - 1;
@@ -39,11 +36,17 @@ public:
     std::vector<Vec3> kept;
 
 private:
+    Cell cell_of(Vec3 p) const {
+        auto const at = [this](double v) { return std::llround(std::floor(v / distance)); };
+        return {at(p.x), at(p.y), at(p.z)};
+    }
+
+    double distance;
     std::map<Cell, std::vector<int>> cells;
 };
 
-void weld(Object& object) {
-    Welder welder;
+void weld(Object& object, double distance) {
+    Welder welder(distance);
     std::vector<int> to;
     for (Vec3 const& p : object.vertices) to.push_back(welder.index_of({rounded(p.x), rounded(p.y), rounded(p.z)}));
     for (Face& face : object.faces)
@@ -171,8 +174,8 @@ bool inside_out(Object const& object, std::vector<std::size_t> const& part) {
 
 } // namespace
 
-void clean(Object& object) {
-    weld(object);
+void clean(Object& object, double distance) {
+    weld(object, distance);
     dissolve_thin_faces(object);
     drop_duplicates(object);
     drop_loose(object);

@@ -4,13 +4,13 @@
 
 namespace asc {
 
-/// Points nearer to each other than this become one vertex, units.
+/// Points nearer to each other than this become one vertex, units, unless a caller asks for more.
 inline constexpr double weld_distance = 1e-5;
 
-/// Rounds coordinates to what a file keeps, joins vertices within `weld_distance`, drops faces without area, faces
+/// Rounds coordinates to what a file keeps, joins vertices less than `distance` apart, drops faces without area, faces
 /// that stand twice and vertices that no face uses. A face whose corners lie on one line is not simply dropped: the
 /// neighbour across its longest side is split in two, so that no gap opens.
-void clean(Object& object);
+void clean(Object& object, double distance = weld_distance);
 
 /// Turns the faces so that neighbours agree; then a closed part looks outward, a flat part of normal along z looks
 /// to +z, and any other open part keeps the side that its first face looked to.

@@ -1,0 +1,20 @@
+// The words of the intro, one a beat, and the name tag.
+use <lib/lettering.scad>
+
+which = "We";
+
+// All words are as high as each other, 9.6; their width is as it falls.
+if (which == "We") plain("WE");
+if (which == "Know") plain("KNOW");
+if (which == "What") plain("WHAT");
+if (which == "Are") plain("ARE");
+if (which == "Doing") plain("DOING");
+if (which == "QUILLONx") slab(1.6) resize([30, 9.2]) tag();
+
+module plain(letters) slab(1.2) resize([0, 9.6]) word(letters, 9.6);
+
+// The name with a small x at its foot.
+module tag() {
+    word("QUILLON", 9.2);
+    translate([24.9, 0]) word("X", 4.6);
+}

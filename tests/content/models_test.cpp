@@ -1,0 +1,298 @@
+// Every mesh in data/: what it holds, how big it is, and that the show can load, outline and shatter it.
+
+#include "tools/asc/ascfile.h"
+#include "tools/asc/check.h"
+#include "tools/asc/mesh.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string const data_folder = HARDSILENCE_SOURCE_DIR "/data/";
+
+enum Kind { flat, solid };
+enum Use { whole, shattered };
+
+/// What one object should be: its box in units of the mesh, and its number of faces.
+struct Model {
+    char const* file;
+    char const* object;
+    Kind kind;
+    Use use;
+    asc::Vec3 low, high; ///< the box
+    double tolerance;    ///< of each side of the box, units
+    int fewest, most;    ///< faces
+};
+
+// file, object, kind, use, box low and high, tolerance, faces
+std::vector<Model> const models = {
+    {"weknow",               "We",                   solid, whole,     {-6.0, -4.8, -0.6},          {3.0, 4.8, 0.6},       0.05,  80,   900 },
+    {"weknow",               "Know",                 solid, whole,     {-10.3, -4.8, -0.6},         {7.3, 4.8, 0.6},       0.05,  100,  900 },
+    {"weknow",               "What",                 solid, whole,     {-10.2, -4.8, -0.6},         {7.2, 4.8, 0.6},       0.05,  100,  900 },
+    {"weknow",               "Are",                  solid, whole,     {-7.25, -4.8, -0.6},         {4.25, 4.8, 0.6},      0.05,  100,  900 },
+    {"weknow",               "Doing",                solid, whole,     {-10.3, -4.8, -0.6},         {7.3, 4.8, 0.6},       0.05,  100,  900 },
+    {"weknow",               "QUILLONx",             solid, whole,     {-15.5, -4.6, -0.8},         {14.5, 4.6, 0.8},      0.05,  200,  1500},
+    {"glass",                "glass",                flat,  shattered, {-3.6, -3.2, 0},             {3.6, 3.2, 0},         0.01,  200,  350 },
+    {"gungirl_silhouette",   "gungirl_silhouette",   flat,  shattered, {-1.7, -4.75, 0},            {1.7, 4.75, 0},        0.35,  1000, 1600},
+    {"donut2",               "donut2",               solid, whole,     {-0.92, -0.92, -0.04},       {0.92, 0.92, 0.04},    0.005, 1000, 1500},
+    {"framecube",            "framecube",            solid, shattered, {-6.062, -6.062, -6.062},    {6.062, 6.062, 6.062}, 0.01,  500,  900 },
+    {"frametetrahedron",
+     "frametetrahedron",                             solid,
+     shattered,                                                        {-6.062, -6.062, -6.062},
+     {6.062, 6.062, 6.062},
+     0.01,                                                                                                                        500,
+     900                                                                                                                                    },
+    {"frameoctoball",        "frameoctoball",        solid, shattered, {-6.5, -6.5, -6.5},          {6.5, 6.5, 6.5},       0.01,  400,  600 },
+    {"spikeydodecahedron",
+     "spikeydodecahedron",                           solid,
+     shattered,                                                        {-8.507, -8.507, -8.507},
+     {8.507, 8.507, 8.507},
+     0.01,                                                                                                                        300,
+     900                                                                                                                                    },
+    {"infinity",             "infinity",             solid, shattered, {-4.8, -4.8, -10},           {4.8, 4.8, 10},        0.1,   400,  900 },
+    {"maltanristi",          "maltanristi",          solid, shattered, {-6.06, -6.06, -8.02},       {6.06, 6.06, 8.02},    0.05,  400,  900 },
+    {"gun_silhouette",       "gun_silhouette",       flat,  whole,     {-4, -2.5, 0},               {4, 2.5, 0},           1.2,   50,   600 },
+    {"credits",              "credits",              flat,  whole,     {-4.1, -11, 0},              {2.3, 4, 0},           0.2,   300,  3000},
+    {"butt_silhouette",      "butt_silhouette",      flat,  whole,     {-0.4, -4.5, 0},             {2.2, 4.5, 0},         0.4,   300,  2500},
+    {"side2_silhouette",     "side2_silhouette",     flat,  whole,     {-0.4, -4.5, 0},             {2.2, 4.5, 0},         0.4,   300,  2500},
+    {"sideview_silhouette",  "sideview_silhouette",  flat,  whole,     {-2.2, -4.5, 0},             {0.4, 4.5, 0},         0.4,   300,  2500},
+    {"torus2",               "torus2",               solid, whole,     {-3.62, -3.62, -0.42},       {3.62, 3.62, 0.42},    0.01,  400,  600 },
+    {"tentacles_silhouette", "tentacles_silhouette", flat,  whole,     {-5, -5, -0.02},             {5, 5, -0.02},         2.5,   400,  2500},
+    {"QUILLONx-title",       "QUILLONx-title",       flat,  whole,     {-36, -7.5, 0},              {36, 7.5, 0},          0.01,  80,   1500},
+    {"HARD-title",           "HARD-title",           flat,  whole,     {-0.6, -0.22, 0},            {0.6, 0.30, 0},        0.001, 60,   600 },
+    {"SILENCE-title",        "SILENCE-title",        flat,  whole,     {-2.8, -0.88, 0},            {2.8, 0.28, 0},        0.005, 80,   900 },
+    {"hollowsoccerball",
+     "hollowsoccerball",                             solid,
+     whole,                                                            {-3.918, -3.918, -3.918},
+     {3.918, 3.918, 3.918},
+     0.01,                                                                                                                        1000,
+     2000                                                                                                                                   },
+    {"frameicosahedron",
+     "frameicosahedron",                             solid,
+     whole,                                                            {-1.7013, -1.7013, -1.7013},
+     {1.7013, 1.7013, 1.7013},
+     0.001,                                                                                                                       300,
+     1500                                                                                                                                   },
+    {"greetings",            "Arbalest",             solid, whole,     {-1.72, -0.36, -0.1},        {1.72, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Pixelherds",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Lanternfly",           solid, whole,     {-2.09, -0.36, -0.1},        {2.09, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Mirevolt",             solid, whole,     {-1.64, -0.36, -0.1},        {1.64, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Quartzine",            solid, whole,     {-1.84, -0.36, -0.1},        {1.84, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Tundrabeat",           solid, whole,     {-2.21, -0.36, -0.1},        {2.21, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Obelisk_K",            solid, whole,     {-1.70, -0.36, -0.1},        {1.70, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Heavy_Cart",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
+};
+
+std::set<std::string> files() {
+    std::set<std::string> all;
+    for (Model const& model : models) all.insert(model.file);
+    return all;
+}
+
+std::string text_of(std::string const& file) {
+    std::string text;
+    EXPECT_TRUE(asc::read_text(data_folder + file + ".asc", text)) << file;
+    return text;
+}
+
+asc::ReadFile const& read(std::string const& file) {
+    static std::map<std::string, asc::ReadFile> all;
+    auto const found = all.find(file);
+    return found != all.end() ? found->second : all.emplace(file, asc::parse(text_of(file))).first->second;
+}
+
+asc::Object const* find(Model const& model) {
+    for (auto const& some : read(model.file).objects)
+        if (some.object.name == model.object) return &some.object;
+    return nullptr;
+}
+
+class EveryFile : public testing::TestWithParam<std::string> {};
+class EveryModel : public testing::TestWithParam<Model> {};
+
+std::string test_name(std::string name) {
+    for (char& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Data, EveryFile, testing::ValuesIn(files()),
+                         [](auto const& some) { return test_name(some.param); });
+INSTANTIATE_TEST_SUITE_P(Data, EveryModel, testing::ValuesIn(models),
+                         [](auto const& some) { return test_name(some.param.object); });
+
+TEST(DataFolder, HoldsTheMeshesOfTheTableAndNoOthers) {
+    std::set<std::string> found;
+    for (auto const& entry : std::filesystem::directory_iterator(data_folder))
+        if (entry.path().extension() == ".asc") found.insert(entry.path().stem().string());
+    EXPECT_EQ(found, files());
+}
+
+TEST(DataFolder, HoldsLessThanTwelveMegabytesOfMeshes) {
+    std::uintmax_t size = 0;
+    for (auto const& entry : std::filesystem::directory_iterator(data_folder))
+        if (entry.path().extension() == ".asc") size += entry.file_size();
+    EXPECT_GT(size, 0U);
+    EXPECT_LT(size, 12U * 1000 * 1000);
+}
+
+TEST_P(EveryFile, HoldsItsObjectsInTheOrderOfTheTable) {
+    std::vector<std::string> expected, found;
+    for (Model const& model : models)
+        if (model.file == GetParam()) expected.emplace_back(model.object);
+    for (auto const& some : read(GetParam()).objects) found.push_back(some.object.name);
+    EXPECT_EQ(found, expected);
+}
+
+TEST_P(EveryFile, HasNoFault) {
+    for (asc::Fault const& fault : asc::faults_of(read(GetParam()), false))
+        ADD_FAILURE() << GetParam() << ".asc:" << fault.line << ": " << fault.text;
+}
+
+// The loader takes a short line between objects for the end of the file when nothing but a name may follow.
+TEST_P(EveryFile, EndsItsLinesWithCarriageReturnAndLineFeedAndHasNoBlankLineAtItsEnd) {
+    std::string const text = text_of(GetParam());
+    ASSERT_GT(text.size(), 4U);
+    EXPECT_TRUE(text.starts_with("Named object: \""));
+    EXPECT_TRUE(text.ends_with("\r\n"));
+    EXPECT_FALSE(text.ends_with("\r\n\r\n"));
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\n') {
+            ASSERT_EQ(text[at - 1], '\r') << "at byte " << at;
+        }
+        if (text[at] == '\r') {
+            ASSERT_EQ(text[at + 1], '\n') << "at byte " << at;
+        }
+        ASSERT_NE(text[at], '\0') << "at byte " << at;
+    }
+}
+
+TEST_P(EveryFile, HasOneBlankLineBeforeEachNameButTheFirstAndNoOther) {
+    std::string const text = text_of(GetParam());
+    std::vector<std::string> lines;
+    for (std::size_t from = 0; from < text.size();) {
+        std::size_t const end = text.find("\r\n", from);
+        lines.push_back(text.substr(from, end - from));
+        from = end + 2;
+    }
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        bool const before_name = i + 1 < lines.size() && lines[i + 1].starts_with("Named object: ");
+        EXPECT_EQ(lines[i].empty(), before_name) << "line " << i + 1;
+    }
+}
+
+TEST_P(EveryModel, FillsItsBox) {
+    Model const& model = GetParam();
+    asc::Object const* const object = find(model);
+    ASSERT_TRUE(object) << model.file << " holds no " << model.object;
+    auto const [low, high] = asc::box_of(*object);
+    EXPECT_NEAR(low.x, model.low.x, model.tolerance);
+    EXPECT_NEAR(low.y, model.low.y, model.tolerance);
+    EXPECT_NEAR(high.x, model.high.x, model.tolerance);
+    EXPECT_NEAR(high.y, model.high.y, model.tolerance);
+    double const depth_tolerance = model.kind == flat ? 1e-6 : model.tolerance;
+    EXPECT_NEAR(low.z, model.low.z, depth_tolerance);
+    EXPECT_NEAR(high.z, model.high.z, depth_tolerance);
+}
+
+TEST_P(EveryModel, HasAsManyFacesAsItsSceneBears) {
+    Model const& model = GetParam();
+    asc::Object const* const object = find(model);
+    ASSERT_TRUE(object);
+    int const faces = static_cast<int>(object->faces.size());
+    EXPECT_GE(faces, model.fewest);
+    EXPECT_LE(faces, model.most);
+    EXPECT_LE(faces, model.use == shattered ? 10000 : 100000);
+}
+
+// Written out once more here, without the tool's own notion of creases and of drawing.
+using Line = std::pair<int, int>;
+
+Line line(int from, int to) { return {std::min(from, to), std::max(from, to)}; }
+
+asc::Vec3 unit_normal(asc::Object const& object, asc::Face const& face) {
+    auto const at = [&](int i) {
+        return object.vertices[static_cast<std::size_t>(face.v[static_cast<std::size_t>(i)])];
+    };
+    asc::Vec3 const a = at(0), u = at(1) - a, w = at(2) - a;
+    asc::Vec3 const n{u.y * w.z - u.z * w.y, u.z * w.x - u.x * w.z, u.x * w.y - u.y * w.x};
+    return n * (1.0 / std::sqrt(n.x * n.x + n.y * n.y + n.z * n.z));
+}
+
+TEST_P(EveryModel, DrawsExactlyItsCreases) {
+    asc::Object const* const object = find(GetParam());
+    ASSERT_TRUE(object);
+    std::set<Line> drawn;
+    std::map<Line, std::vector<asc::Vec3>> normals;
+    for (asc::Face const& face : object->faces) {
+        auto const [a, b, c] = face.v;
+        if (face.edge[0] == 1) drawn.insert(line(a, b));
+        if (face.edge[1] == 1) drawn.insert(line(b, c));
+        if (face.edge[1] == 1) drawn.insert(line(c, a)); // the list asks for BC here, not for CA
+        for (Line const& side : {line(a, b), line(b, c), line(c, a)})
+            normals[side].push_back(unit_normal(*object, face));
+    }
+    double const coplanar = std::cos(3.14159265358979 / 180.0); // within one degree
+    std::set<Line> creases;
+    for (auto const& [side, n] : normals)
+        if (n.size() != 2 || n[0].x * n[1].x + n[0].y * n[1].y + n[0].z * n[1].z < coplanar) creases.insert(side);
+    EXPECT_EQ(drawn, creases);
+}
+
+TEST_P(EveryModel, IsClosedAndLooksOutwardOrLiesFlatAndLooksToTheViewer) {
+    Model const& model = GetParam();
+    asc::Object const* const object = find(model);
+    ASSERT_TRUE(object);
+    std::map<Line, int> balance, count;
+    double volume = 0.0;
+    for (asc::Face const& face : object->faces) {
+        for (std::size_t i = 0; i < 3; ++i) {
+            int const from = face.v[i], to = face.v[(i + 1) % 3];
+            balance[line(from, to)] += from < to ? 1 : -1;
+            ++count[line(from, to)];
+        }
+        if (model.kind == flat) {
+            EXPECT_NEAR(unit_normal(*object, face).z, 1.0, 1e-9);
+        }
+        auto const at = [&](std::size_t i) { return object->vertices[static_cast<std::size_t>(face.v[i])]; };
+        volume += asc::dot(at(0), asc::cross(at(1), at(2)));
+    }
+    for (auto const& [side, faces] : count) {
+        ASSERT_LE(faces, 2) << side.first << "-" << side.second;
+        if (faces == 2) {
+            ASSERT_EQ(balance[side], 0) << side.first << "-" << side.second;
+        }
+        if (model.kind == solid) {
+            ASSERT_EQ(faces, 2) << side.first << "-" << side.second;
+        }
+    }
+    if (model.kind == solid) {
+        EXPECT_GT(volume, 0.0);
+    }
+}
+
+// Splinters as thin as needles would show when a mesh is taken apart. The ball is made of slim bars and is left out.
+TEST_P(EveryModel, ShattersIntoPiecesWithDecentAngles) {
+    Model const& model = GetParam();
+    asc::Object const* const object = find(model);
+    ASSERT_TRUE(object);
+    if (model.use != shattered || model.object == std::string("frameoctoball")) GTEST_SKIP() << "not shattered";
+    std::size_t thin = 0;
+    for (asc::Face const& face : object->faces) {
+        double const angle = asc::smallest_angle(*object, face);
+        EXPECT_GT(angle, 5.0);
+        thin += angle < 15.0 ? 1 : 0;
+    }
+    EXPECT_LT(static_cast<double>(thin), 0.1 * static_cast<double>(object->faces.size()));
+}
+
+} // namespace
