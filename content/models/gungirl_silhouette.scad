@@ -5,8 +5,10 @@ use <lib/figure.scad>
 include <lib/anatomy.scad>
 use <lib/pistol.scad>
 
-$tol = 0.0007; // coarser than usual: the figure is shattered, and every vertex of its outline makes pieces
-head = 1.17;   // height of the head: the unit of the anatomy
+// The figure is shattered and every vertex of the outline makes pieces: the big calm contours are sampled finely,
+// boots, hand and pistol (below) more coarsely.
+$tol = 0.0007;
+head = 1.17; // height of the head: the unit of the anatomy
 
 // Joints. Left and right are those of the picture.
 pelvis     = frame([-0.12, 0.00], -5);
