@@ -37,6 +37,18 @@ module trunk() {
         all_at(skull, [[-0.28, 0.20]])));
 }
 
+// A narrow dress to the middle of the thighs; its hem stands off a little.
+module dress() {
+    hem_l = beside(hip_l, knee_l, 0.56, -0.345 * head);
+    hem_r = beside(hip_r, knee_r, 0.54, 0.345 * head);
+    contour(concat(
+        all_at(pelvis, [[-0.70, 0.2]]),
+        [beside(hip_l, knee_l, 0.12, -0.42 * head), beside(hip_l, knee_l, 0.34, -0.385 * head), hem_l, hem_l,
+         mix(hem_l, hem_r, 0.5) - [0, 0.05], hem_r, hem_r,
+         beside(hip_r, knee_r, 0.34, 0.39 * head), beside(hip_r, knee_r, 0.12, 0.42 * head)],
+        all_at(pelvis, [[0.70, 0.2]])));
+}
+
 // A bob that flicks out at the nape.
 module hair() {
     contour(all_at(skull, [[0.345, 0.78], [0.375, 0.93], [0.24, 1.05], [0.0, 1.08], [-0.28, 1.035], [-0.50, 0.89],
@@ -48,6 +60,7 @@ module figure() {
     fillet(0.03) {
         fillet(0.10) {
             trunk();
+            dress();
             limb([shoulder_l, elbow_l, wrist_l], [upper_arm, forearm], head, true);
             limb([shoulder_r, elbow_r, wrist_r], [upper_arm, forearm], head);
             limb([hip_l, knee_l, ankle_l], [thigh_front, shin_front], head, true);

@@ -5,8 +5,10 @@ use <lib/figure.scad>
 include <lib/anatomy.scad>
 use <lib/pistol.scad>
 
-$tol = 0.0007; // coarser than usual: the figure is shattered, and every vertex of its outline makes pieces
-head = 1.17;   // height of the head: the unit of the anatomy
+// The figure is shattered and every vertex of the outline makes pieces: the big calm contours are sampled finely,
+// boots, hand and pistol (below) more coarsely.
+$tol = 0.0007;
+head = 1.17; // height of the head: the unit of the anatomy
 
 // Joints. Left and right are those of the picture.
 pelvis     = frame([-0.12, 0.00], -5);
@@ -20,8 +22,8 @@ elbow_r    = [1.50, 1.32];
 wrist_r    = [1.92, 2.55];
 hip_l      = at(pelvis, [-0.44, -0.02]);
 hip_r      = at(pelvis, [0.44, -0.02]);
-knee_l     = [-1.24, -2.22];
-knee_r     = [1.22, -2.36];
+knee_l     = [-1.21, -2.22];
+knee_r     = [1.17, -2.36];
 ankle_l    = [-1.70, -4.01];
 ankle_r    = [1.68, -4.01];
 gun        = frame(wrist_r + [-0.28, 0.37], 87, 0.68);
@@ -69,7 +71,7 @@ module boot(knee, ankle, flip, turn) {
     shaft = [for (row = shin_front) if (row[0] > 0.5) row + [0, 0.01, 0.01]];
     cuff = [0.17, 0.238, 0.222];
     fillet(0.06) {
-        limb([knee, ankle], [concat([cuff, cuff, [0.30, 0.238, 0.216], [0.42, 0.214, 0.212]], shaft)], head, flip);
+        limb([knee, ankle], [concat([cuff, cuff, [0.30, 0.236, 0.218], [0.42, 0.210, 0.201]], shaft)], head, flip);
         foot = frame(ankle, flip ? -4 : 4, head, flip);
         place(foot) pump(turn, lean_to(knee, foot));
     }
@@ -84,17 +86,17 @@ module figure() {
             trunk();
             limb([shoulder_l, elbow_l, wrist_l], [upper_arm, forearm], head, true);
             limb([shoulder_r, elbow_r, wrist_r], [upper_arm, forearm], head);
-            limb([hip_l, knee_l, ankle_l], [thigh_wide, shin_front], head, true);
-            limb([hip_r, knee_r, ankle_r], [thigh_wide, shin_front], head);
+            limb([hip_l, knee_l, ankle_l], [thigh_wide, shin_front], head, true, [-0.04, -0.02]);
+            limb([hip_r, knee_r, ankle_r], [thigh_wide, shin_front], head, false, [0.04, 0.02]);
         }
         place(frame(wrist_l, -56, head)) hip_hand();
         place(gun, $tol = 0.004) gun_hand();
     }
-    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
-    boot(knee_r, ankle_r, false, 40, $tol = 0.002);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.0013);
+    boot(knee_r, ankle_r, false, 40, $tol = 0.0013);
     place(skull, $tol = 0.002) head_profile();
     hair();
-    boot(knee_l, ankle_l, true, 30, $tol = 0.002);
+    boot(knee_l, ankle_l, true, 30, $tol = 0.0013);
     boot(knee_r, ankle_r, false, 42);
     place(gun, $tol = 0.004) pistol();
 }

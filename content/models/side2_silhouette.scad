@@ -30,6 +30,19 @@ module trunk() {
         all_at(skull, [[0.12, 0.08]])));
 }
 
+// A short skirt, close over the hips, loose behind.
+module skirt() {
+    hip = at(pelvis, [0, 0]);
+    back = beside(hip_back, knee_back, 0.36, -0.47 * head);
+    front = beside(hip, knee, 0.47, 0.36 * head);
+    contour(concat(
+        all_at(pelvis, [[-0.40, 0.15], [-0.57, -0.10]]),
+        [beside(hip_back, knee_back, 0.12, -0.46 * head), back, back,
+         beside(hip_back, knee_back, 0.40, -0.18 * head), beside(hip_back, knee_back, 0.38, 0.12 * head),
+         beside(hip, knee, 0.46, -0.36 * head), beside(hip, knee, 0.50, 0.0), front, front,
+         beside(hip, knee, 0.25, 0.385 * head), beside(hip, knee, 0.10, 0.34 * head)]));
+}
+
 module hair() {
     contour(all_at(skull, [[0.355, 0.80], [0.36, 0.94], [0.20, 1.05], [-0.05, 1.08], [-0.32, 1.02], [-0.55, 0.86],
                            [-0.80, 0.72], [-1.05, 0.66], [-1.30, 0.70], [-1.48, 0.80], [-1.48, 0.80],
@@ -43,6 +56,7 @@ module figure() {
         fillet(0.08) {
             fillet(0.2) {
                 trunk();
+                skirt();
                 limb([at(pelvis, [0, 0]), knee, ankle], [thigh_side, shin_side], head, bow = [0.04, -0.03]);
             }
             limb([hip_back, knee_back, ankle_back], [thigh_side, shin_side], head, bow = [0.05, -0.06]);

@@ -97,6 +97,9 @@ function limb_side(joints, profiles, girth, flip, bow, side) =
                       (inward[i] == 0 || t * length >= w * inward[i]) &&
                       (inward[i + 1] == 0 || (1 - t) * length >= w * inward[i + 1]))
                       joints[i] + way[i] * t * length + out * w + left_of(way[i]) * bow[i] * 4 * t * (1 - t)])];
+// The point beside a bone, at the fraction t of its length and so far to the left (right if negative).
+function beside(a, b, t, out) = mix(a, b, t) + left_of(direction(b - a)) * out;
+
 bony = 1.22; // how far the bone of a bent joint stands out, in half widths of the limb there
 function turn_away(u, v, side) = (u[0] * v[1] - u[1] * v[0]) * side < 0 ? angle_between(u, v) : 0;
 
