@@ -6,17 +6,16 @@ half = [3.6, 3.2]; // of the pane
 rays = 16;
 rings = 10;
 smallest = 0.17; // radius of the innermost ring
-seed = 16;
+seed = 17;
 
-// Directions, evenly spread and shaken a little; the four that lie next to a corner of the pane go through it.
+// Directions, evenly spread and shaken a little; the ray nearest to a corner of the pane goes through it.
 shake = rands(-0.22, 0.22, rays, seed);
-corners = [for (s = [[1, 1], [-1, 1], [-1, -1], [1, -1]]) angle_of([s[0] * half[0], s[1] * half[1]] - impact)];
 even = [for (i = [0:rays - 1]) (i + 0.5 + shake[i]) * 360 / rays];
-angles = [for (a = even) let (near = [for (c = corners) if (abs(c - a) <= 180 / rays) c]) nearest(a, near)];
+corners = [for (s = [[1, 1], [-1, 1], [-1, -1], [1, -1]]) angle_of([s[0] * half[0], s[1] * half[1]] - impact)];
+angles = [for (a = even) let (here = [for (c = corners) if (abs(c - a) == min([for (b = even) abs(c - b)])) c])
+    len(here) > 0 ? here[0] : a];
 
 function angle_of(p) = (atan2(p[1], p[0]) + 360) % 360;
-// `a`, or the corner beside it when no other ray is nearer to that corner.
-function nearest(a, near) = len(near) > 0 && min([for (b = even) abs(b - near[0])]) == abs(a - near[0]) ? near[0] : a;
 
 // Distance from the impact to the rim in the direction `a`.
 function reach(a) = let (c = cos(a), s = sin(a)) min(

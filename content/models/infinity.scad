@@ -2,10 +2,10 @@
 // (1, -1, 0), its long axis along z.
 use <lib/tube.scad>
 
-thickness = 1.1;        // radius of the tube
+thickness = 1.2;        // radius of the tube
 long = 10 - thickness;  // reach of the curve along z
 wide = 4.4;             // and across
-apart = 1.25;           // distance of each strand from the plane where they cross
+apart = 1.32;           // distance of each strand from the plane where they cross
 around = 48;
 sides = 6;
 

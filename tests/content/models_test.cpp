@@ -295,4 +295,25 @@ TEST_P(EveryModel, ShattersIntoPiecesWithDecentAngles) {
     EXPECT_LT(static_cast<double>(thin), 0.1 * static_cast<double>(object->faces.size()));
 }
 
+TEST(Glass, FillsThePaneToItsCorners) {
+    asc::ReadFile const& file = read("glass");
+    ASSERT_EQ(file.objects.size(), 1U);
+    asc::Object const& glass = file.objects[0].object;
+    double area = 0.0;
+    for (asc::Face const& face : glass.faces) area += 0.5 * asc::face_normal(glass, face).z;
+    EXPECT_NEAR(area, 7.2 * 6.4, 1e-4);
+}
+
+TEST(Glass, HasItsSmallestShardsAtThePointOfImpact) {
+    asc::Object const& glass = read("glass").objects.at(0).object;
+    for (asc::Face const& face : glass.faces) {
+        asc::Vec3 middle;
+        for (int v : face.v) middle = middle + glass.vertices[static_cast<std::size_t>(v)] * (1.0 / 3.0);
+        double const away = std::hypot(middle.x + 0.12, middle.y);
+        double const size = std::sqrt(0.5 * asc::face_normal(glass, face).z);
+        EXPECT_LT(size, 0.08 + 0.4 * away) << "at " << middle.x << ", " << middle.y;
+        EXPECT_GT(size, 0.1 * away) << "at " << middle.x << ", " << middle.y;
+    }
+}
+
 } // namespace

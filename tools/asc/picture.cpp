@@ -81,14 +81,36 @@ void draw_cut_line(Canvas& canvas, Vec3 a, Vec3 b, std::uint8_t shade) {
     canvas.line(p, q, shade, 0.002 * std::max(p.z, q.z), fine);
 }
 
+/// How to turn a mesh for its panel: flat ones not at all, others to the side that shows most of them. The first
+/// side, upper right, is kept unless another shows a tenth more.
+Vec3 best_turn(Object const& object, bool flat) {
+    if (flat) return {};
+    Vec3 best;
+    double most = 0.0;
+    for (Vec3 const& turn : {
+             Vec3{25,  -30, 0},
+             Vec3{25,  30,  0},
+             Vec3{-25, -30, 0},
+             Vec3{-25, 30,  0}
+    }) {
+        double seen = 0.0;
+        for (Face const& face : object.faces) seen += std::abs(turned(face_normal(object, face), turn).z);
+        if (seen < 1.1 * most) continue;
+        most = seen;
+        best = turn;
+    }
+    return best;
+}
+
 /// One object in a square panel, seen without perspective.
 Canvas draw_panel(Object const& object, int size, bool solid) {
     Box const box = box_of(object);
     Vec3 const middle = (box.low + box.high) * 0.5;
+    Vec3 const turn = best_turn(object, box.flat());
     std::vector<Vec3> places;
     double reach = 1e-9;
     for (Vec3 const& p : object.vertices) {
-        Vec3 q = turned(p - middle, box.flat() ? Vec3{} : Vec3{25, -30, 0});
+        Vec3 q = turned(p - middle, turn);
         q.x *= 4.0 / 3.0;
         reach = std::max({reach, std::abs(q.x), std::abs(q.y)});
         places.push_back(q);

@@ -25,7 +25,8 @@ struct View {
 Canvas draw_view(std::vector<Object> const& objects, View const& view, int width, int height);
 
 /// A sheet of panels, two for each object: solid, and its lines, with name and face count below. Flat objects are seen
-/// from the front, others from the upper right; all 4/3 as wide as they are, like the show's picture.
+/// from the front, others from the upper right or from where more of them shows; all 4/3 as wide as they are, like the
+/// show's picture.
 Canvas draw_sheet(std::vector<Object> const& objects, int columns, int panel);
 
 } // namespace asc
