@@ -1,0 +1,135 @@
+#include "tests/show/stage.h"
+
+#include <GL/gl.h>
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace stage {
+
+namespace {
+
+constexpr float frames_per_second = 60;
+
+constexpr char const* objects[] = {
+    "We",
+    "Know",
+    "What",
+    "Are",
+    "Doing",
+    "QUILLONx",
+    "glass",
+    "gungirl_silhouette",
+    "donut2",
+    "framecube",
+    "spikeydodecahedron",
+    "frameoctoball",
+    "infinity",
+    "maltanristi",
+    "frametetrahedron",
+    "gun_silhouette",
+    "credits",
+    "butt_silhouette",
+    "side2_silhouette",
+    "sideview_silhouette",
+    "torus2",
+    "tentacles_silhouette",
+    "QUILLONx-title",
+    "HARD-title",
+    "SILENCE-title",
+    "hollowsoccerball",
+    "frameicosahedron",
+    "Arbalest",
+    "Pixelherds",
+    "Lanternfly",
+    "Mirevolt",
+    "Quartzine",
+    "Tundrabeat",
+    "Obelisk_K",
+    "Heavy_Cart",
+};
+
+constexpr char const* tile = "Begin(QUADS) Vertex(-50,-50,0) Vertex(-50,50,0) Vertex(50,50,0) Vertex(50,-50,0) End";
+
+std::string name_of(gl::Draw const& draw) { return gl::list_content(draw.list) == tile ? "tile" : draw.name; }
+
+template<typename Describe>
+std::vector<std::string> seen(Describe const& describe) {
+    std::vector<std::string> once;
+    for (gl::Draw const& draw : gl::draws()) {
+        std::string const text = describe(draw);
+        if (std::find(once.begin(), once.end(), text) == once.end()) once.push_back(text);
+    }
+    return once;
+}
+
+} // namespace
+
+void name_lists() {
+    for (std::string const name : objects) {
+        unsigned int list = 0;
+        if (models->ModelByName(name, list)) gl::name_list(list, name);
+        if (models->WfByName(name, list)) gl::name_list(list, name + "/lines");
+        auto const full = models->ModelByNameFull(name);
+        for (unsigned int i = 0; full && i < full->count; ++i) {
+            gl::name_list(full->face_models[i], name + "#");
+            gl::name_list(full->face_wireframes[i], name + "#/lines");
+        }
+    }
+}
+
+Stage::Stage(SceneFunction make, float length) : demo(length), clock(length) {
+    gl::reset();
+    models = std::make_shared<kore::AscModel>("data/");
+    scene = make(length);
+    demo.AddScene(scene);
+    name_lists();
+}
+
+void Stage::Step() {
+    state.time = static_cast<float>(frame++) / frames_per_second;
+    clock.Count(state);
+    demo.UpdateLogic(state);
+    state.new_beat = false;
+}
+
+Stage& Stage::PlayTo(double beats) {
+    do Step();
+    while (static_cast<double>(state.time) < beats * static_cast<double>(beat));
+    return *this;
+}
+
+void Stage::Draw() {
+    glLoadIdentity();
+    gl::clear_log();
+    demo.Draw(true);
+}
+
+void Stage::DrawOnly(std::size_t enabler) {
+    glLoadIdentity();
+    gl::clear_log();
+    Entity(enabler).Draw();
+}
+
+std::vector<std::string> Stage::Seen() {
+    Draw();
+    return seen([](gl::Draw const& draw) { return name_of(draw) + ":" + std::to_string(std::lround(draw.color[0])); });
+}
+
+std::vector<std::string> Stage::SeenNames() {
+    Draw();
+    return seen(name_of);
+}
+
+long Stage::Count(std::string const& name) {
+    return std::count_if(gl::draws().begin(), gl::draws().end(), [&](gl::Draw const& d) { return name_of(d) == name; });
+}
+
+gl::Draw const& Stage::Find(std::string const& name, std::size_t n) {
+    for (gl::Draw const& draw : gl::draws()) {
+        if (name_of(draw) == name && n-- == 0) return draw;
+    }
+    throw std::runtime_error(name + " is not drawn");
+}
+
+} // namespace stage

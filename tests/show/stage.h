@@ -1,0 +1,69 @@
+#pragma once
+
+#include "kore/demo.h"
+#include "runtime/beatclock.h"
+#include "show/show.h"
+#include "tests/support/glrecorder.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// Plays scenes in virtual time, at 60 frames per second, and looks at what they draw.
+namespace stage {
+
+using SceneFunction = std::shared_ptr<kore::Scene> (*)(float const& beat);
+
+float const beat = beat2seconds(beats_per_minute, 4); // seconds
+
+/// One scene by itself, with a model library of its own.
+class Stage {
+public:
+    /// @param length  of one beat, seconds
+    explicit Stage(SceneFunction make, float length = beat);
+
+    kore::Scene& Scene() { return *scene; }
+
+    /// The entity of one enabler.
+    kore::Entity& Entity(std::size_t enabler) { return *scene->GetEnablers().at(enabler)->GetEntity(); }
+
+    /// Updates frame by frame, without drawing, up to and including the first frame at this beat or just after it.
+    Stage& PlayTo(double beats);
+
+    /// Updates one frame.
+    void Step();
+
+    /// Draws the frame, after forgetting what was logged before.
+    void Draw();
+
+    /// Draws one enabler's entity by itself, in no view.
+    void DrawOnly(std::size_t enabler);
+
+    /// Draws the frame. Every list that is drawn, once, in the order of its first time: "name:grey level". The edges of
+    /// an object are "name/lines", its single triangles "name#", the backdrop's tiles "tile".
+    std::vector<std::string> Seen();
+
+    /// The same without colours, for frames in which a strobe runs.
+    std::vector<std::string> SeenNames();
+
+    /// How often lists of this name were drawn in the frame that was drawn last.
+    static long Count(std::string const& name);
+
+    /// The n-th draw of this name in the frame that was drawn last.
+    static gl::Draw const& Find(std::string const& name, std::size_t n = 0);
+
+    /// Scene time of the last frame, seconds.
+    float Time() const { return state.time; }
+
+private:
+    std::shared_ptr<kore::Scene> scene;
+    kore::Demo demo;
+    BeatClock clock;
+    kore::StateData state;
+    int frame = 0;
+};
+
+/// Gives the lists of the model library the names that Stage::Seen tells.
+void name_lists();
+
+} // namespace stage
