@@ -31,7 +31,10 @@ PulseWire::PulseWire(std::shared_ptr<kore::CatmullRom> spline, kore::AscModel_pt
 
 void PulseWire::CompileFirstCorners(std::string const& path) {
     kore::AscFile file;
-    if (!file.Open(path) || file.Next() != kore::AscFile::Result::Object) return;
+    if (myModel == 0 || !file.Open(path)) return;
+    do {
+        if (file.Next() != kore::AscFile::Result::Object) return;
+    } while (file.GetName() != "torus2");
     myFirstCorners = glGenLists(1);
     glNewList(myFirstCorners, GL_COMPILE);
     for (int face = 0; face < file.GetFaceCount(); ++face) {

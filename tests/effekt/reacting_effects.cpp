@@ -48,6 +48,8 @@ std::vector<Kind> const& all_kinds() {
     return kinds;
 }
 
+std::string kind_name(testing::TestParamInfo<Kind> const& info) { return info.param.name; }
+
 ReactingTest::ReactingTest() : there(Root()) {
     gl::reset(gl::Logging::Sums);
     for (char const* const object : {"thing", "torus2", "donut2"}) WriteMesh(std::string(object) + ".asc", object);

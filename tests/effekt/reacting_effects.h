@@ -26,6 +26,9 @@ struct Kind {
 /// All ten, in the order in which blinkerinterface.h is implemented.
 std::vector<Kind> const& all_kinds();
 
+/// Its name, for gtest.
+std::string kind_name(testing::TestParamInfo<Kind> const& info);
+
 /// Makes them; runs in a folder with a "data/" of small meshes, and logs sums only.
 class ReactingTest : public EffectTest, public testing::WithParamInterface<Kind> {
 protected:
