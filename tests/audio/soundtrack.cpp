@@ -68,6 +68,7 @@ std::vector<Stretch> const& hard_silences() {
         {"before Swapper",    63,    64 },
         {"before Credits",    159,   160},
         {"before Tunnelgate", 183.5, 184},
+        {"before Plasma",     255.5, 256},
         {"before Fountain",   287,   288},
         {"before Greets",     351,   352},
     };

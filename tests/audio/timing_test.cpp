@@ -33,10 +33,8 @@ std::vector<double> kick_beats() {
     };
     add(0, 7);
     add(24, 63);
-    for (int shape : {0, 1, 2, 4, 5}) {
-        add(64 + 16 * shape, 67 + 16 * shape);
-        add(68 + 16 * shape, 79 + 16 * shape);
-    }
+    for (int shape : {0, 1, 4}) add(64 + 16 * shape, 67 + 16 * shape);
+    for (int shape : {0, 1, 2, 4, 5}) add(68 + 16 * shape, 79 + 16 * shape);
     add(184, 256);
     add(284, 287);
     add(288, 316);

@@ -10,6 +10,6 @@ instr Arp
   aenv expseg 1, p3, 0.02
   afade linseg 0, 0.0015, 1, p3 - 0.0115, 1, 0.01, 0
   giArpSide = -giArpSide
-  aleft, aright place aline * aenv * afade * 0.3 * p4, giArpSide
+  aleft, aright place aline * aenv * afade * 0.52 * p4, giArpSide
   ducked aleft, aright, 0.14, 0.22
 endin

@@ -70,6 +70,19 @@ opcode sweep, 0, iiii
   schedule "Sweep", seconds(giOrigin + ifrom), seconds(ito - ifrom), ifirst, ilast
 endop
 
+; How far a low pass is drawn over synths and bass, 0 open to 1 closed. It stays where the last veil left it.
+gkVeil init 0
+
+instr Veil
+  gkVeil line p4, p3, p5
+endin
+
+; veil from beat, to beat, first value, last value
+opcode veil, 0, iiii
+  ifrom, ito, ifirst, ilast xin
+  schedule "Veil", seconds(giOrigin + ifrom), seconds(ito - ifrom), ifirst, ilast
+endop
+
 ; The kick's push on the other buses: down in 3 ms, back within 0.3 s.
 instr Duck
   p3 = 0.34
@@ -77,7 +90,7 @@ instr Duck
   gaDuck = gaDuck + apush
 endin
 
-; Hard silence over p3 seconds. The doors take half a millisecond, on the silent side at the end.
+; Hard silence over p3 seconds: shut within 2 ms, open again within half a millisecond before the end.
 instr Hush
   ahush linseg 0, 0.002, 1, p3 - 0.0025, 1, 0.0005, 0
   gaHush = gaHush + ahush

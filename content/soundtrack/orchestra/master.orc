@@ -53,14 +53,17 @@ endop
 
 instr Master
   aduck limit gaDuck, 0, 1
+  kveil = 17000 * (0.011 ^ port(gkVeil, 0.01))
   asynth = 1 - 0.62 * aduck
   abass = (1 - 0.92 * aduck) * gaBass
-  abass tonex abass, 9000, 1
+  abass butterlp abass, min(9000, kveil * 1.4)
 
   ; Kick and bass glue to each other
   alow = tanh((gaKick * 0.95 + abass) * 1.05) * giLowFader
-  aleft = gaPlainL * giPlainFader + gaDuckL * asynth * giSynthFader
-  aright = gaPlainR * giPlainFader + gaDuckR * asynth * giSynthFader
+  asynthl butterlp gaDuckL * asynth, kveil
+  asynthr butterlp gaDuckR * asynth, kveil
+  aleft = gaPlainL * giPlainFader + asynthl * giSynthFader
+  aright = gaPlainR * giPlainFader + asynthr * giSynthFader
 
   ; Mono below 140 Hz: the sides lose their bass
   amid = (aleft + aright) * 0.5
@@ -79,6 +82,8 @@ instr Master
   aleft, aright limiter aleft, aright
   aopen = 1 - limit(gaHush, 0, 1)
   aopen delay aopen, giAhead / sr
+  aend linseg 1, p3 - 1.6, 1, 1.5, 0, 0.1, 0 ; the tail's own end
+  aopen = aopen * aend
   kperiod timeinstk
   if kperiod > giAhead / ksmps then
     fout "$OUT", 16, atone(aleft, 4) * aopen, atone(aright, 4) * aopen

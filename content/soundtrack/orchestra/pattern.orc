@@ -32,7 +32,19 @@ endop
 ; hush from, to: hard silence. Everything stops dead, tails and all, and comes back on the beat `to`.
 opcode hush, 0, ii
   ifrom, ito xin
-  schedule "Hush", seconds(giOrigin + ifrom), seconds(ito - ifrom)
+  iclose = 0.002 ; seconds: the door falls shut just before the beat
+  schedule "Hush", seconds(giOrigin + ifrom) - iclose, seconds(ito - ifrom) + iclose
+endop
+
+; chop from, to, until: a stutter of everything. Hard silence in the second half of every sixteenth, and after the last
+; one up to the beat `until`.
+opcode chop, 0, iii
+  ifrom, ito, iuntil xin
+  ibeat = ifrom
+  while ibeat < ito - 0.001 do
+    hush ibeat + 0.14, ibeat + 0.25 < ito - 0.001 ? ibeat + 0.25 : iuntil
+    ibeat += 0.25
+  od
 endop
 
 ; How late a step is played: the swing of the odd sixteenths, in beats.

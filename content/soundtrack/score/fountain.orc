@@ -55,6 +55,9 @@ instr Fountain
   hits 16, 28, "Ride", "x.x.", 0.5
   hits 48, 63, "Ride", "X.x.", 0.7
 
+  veil 28, 31.9, 0.6, 0.1
+  veil 32, 32.1, 0, 0
+
   ; Ground
   play 0, 28, "Bass", gSFountainBass, 1, 0, 0.6
   play 28, 32, "Reese", "ab1 - - - - - - - d2 - - - f#1 - - -", 0.9, 0, 0.8
@@ -85,5 +88,6 @@ instr Fountain
   at 56, "Riser", 7, 0.5, 86, 0.6
   hits 61, 62, "Snare", "xoxo", 0.6, 0, 0.2
   hits 62, 63, "Snare", "XXrr", 0.9, 0, 0.6
-  hush 63, 64
+  hush 61.86, 62
+  chop 62, 63, 64
 endin

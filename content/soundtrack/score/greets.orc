@@ -31,7 +31,7 @@ instr Greets
   play 0, 16, "Bell", gSTheme, 0.75, 0, 0.4
 
   ; The bell alone
-  play 16, 32, "Choir", "g3+d4 - - - | g3+eb4 - - - | - - - - | - - - -", 0.35, 0, 0.2, 1
+  play 16, 32, "Choir", "g3+d4 - - - | g3+eb4 - - - | g3+c4 - - - | ab3+c4 - f#3+a3 -", 0.35, 0, 0.2, 1
   play 16, 32, "Bell", gSTheme, 0.7, 0, 0.15
 
   ; Home

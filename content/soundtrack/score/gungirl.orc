@@ -5,7 +5,7 @@ gSGunBass  = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . g1 . g2~ 
 gSGunBass2 = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . ab1 . ab2~ . . f#1 . . f#1 f#1"
 
 instr GunGirl
-  section p4, 0.4
+  section p4, 0.9
 
   ; Pieces close in: faster and faster, all towards one point
   at 0, "Impact", 2, 0.7, 0, 0.3
@@ -37,17 +37,18 @@ instr GunGirl
   ; Groove
   at 8, "Crash", 4, 0.7
   hits 8, 46, "Kick", "X... X... X... X...", 1, 0, 0.1
-  play 8, 24, "Bass", gSGunBass, 1.05, 0, 0.6
+  play 8, 24, "Bass", gSGunBass, 1.1, 0, 0.85
   play 24, 40, "Bass", gSGunBass, 1.05, 0, 0.75
   play 40, 47, "Bass", gSGunBass2, 0.95, 0, 0.8
   hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.9
-  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.9, 0, 0.4
+  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 1.1, 0, 0.6
   hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
 
   ; Turn: claps, the gun answers
   at 16, "Impact", 2, 0.6, 0, 0.4
   at 16, "Crash", 4, 0.6
   hits 16, 46, "Clap", ".... X... .... X...", 0.9
+  hits 8, 16, "OpenHat", "..x. ..x. ..x. ..x.", 0.55
   hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.75
   play 16, 24, "Zap", ". . . . . . . . . . g4 . . . . . | . . . . . . . . . . bb4 . . c5 . .", 0.45, 0, 0.3
   play 16, 32, "Growl", ". . . . . . . . . . . . . . . . | . . . . . . . . g1! - . g1 . . ab1 -", 0.8, 0, 0.8
@@ -56,6 +57,7 @@ instr GunGirl
   at 24, "Impact", 2, 0.6, 0, 0.4
   at 24, "Crash", 4, 0.6
   play 24, 40, "Stab", "g2 . . g2 . . . . . . . . . . . . | g2 . . g2 . . bb2 . . . . f2 . . . .", 0.5, 0, 0.35
+  hits 8, 24, "Tick", "x.o. ..x. .o.. x.o.", 0.5, 93, 0.15
   hits 24, 47, "Hat", ".o.. .o.. .o.. .o..", 0.4, 0, 1
   hits 22, 24, "Tom", "..x. x.xx", 0.7, 43, 0.3
 
@@ -76,5 +78,6 @@ instr GunGirl
   hits 44, 46, "Snare", "o.o. o.o.", 0.6, 0, 0.1
   hits 46, 47, "Snare", "xxXX", 0.9, 0, 0.4
   hits 46, 47, "Kick", "X.X.", 1, 0, 0.3
-  hush 47, 48
+  hush 45.86, 46
+  chop 46, 47, 48
 endin

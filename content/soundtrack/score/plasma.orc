@@ -3,10 +3,16 @@
 instr Plasma
   section p4, -4
 
-  at 0, "Impact", 4, 1, 0, 0.7
-  at 0, "Crash", 6, 0.8
-  at 0, "Stab", 1.5, 0.9, 43, 0.9
+  at 0, "Impact", 4, 1.8, 0, 0.9
+  at 0, "Kick", 0.5, 1.4, 0, 0.6
+  at 0, "Crash", 6, 1.4
+  at 0, "Stab", 2, 1.8, 43, 1
+  at 0, "Stab", 2, 1.2, 31, 0.8
   at 0, "Faller", 6, 0.7
+
+  ; A veil falls and lifts again
+  veil 0.5, 4, 0, 0.55
+  veil 4, 28, 0.55, 0
 
   ; Wide saws, two bars a chord, in two octaves
   play 0, 31, "Pad", gSChords, 1.05, 0, 0.5, 2
@@ -18,6 +24,8 @@ instr Plasma
   play 0, 31, "Choir", gSTheme, 0.9, 0, 0.6, 0.5
   play 16, 31, "Wail", "eb5 - - d5 - - c5 - eb5 - - g5 - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.7, 0, 0.6, 0.5
   play 8, 24, "Bell", ". . g5 . . . d5 . . . . . bb4 . . .", 0.4, 0, 0.2
+
+  play 0, 31, "Arp", gSArp, 0.55, 0, 0.5, 0.5
 
   ; A heart, and a clock
   hits 0, 24, "Kick", ".... .... x..o ....", 0.5

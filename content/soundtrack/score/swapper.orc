@@ -12,16 +12,20 @@ gSSwapBass3 = {{ g1! - . g1   - . g1 .    g1! - . g1   - . d2~ .  |
 gSSwapBass5 = {{ g1! . . g1  . . g1 .   g1 g1 . ab1  . . f#1 .   |
                  g1! . . g1  . . g1 .   bb1 bb1 . ab1 . . f#1 f#1 }}
 
-; What every shape has: gathering from `ibeat`, the flash 4 beats later, drums, a fill at the end.
-opcode shape, 0, iSSi
-  ibeat, Skick, Sclap, idrive xin
+; What every shape has: gathering behind a veil from `ibeat` with a kick of its own, the flash 4 beats later, drums.
+opcode shape, 0, iSSSi
+  ibeat, Sgathering, Skick, Sclap, idrive xin
   at ibeat, "Crash", 4, 0.6
   at ibeat + 1, "Riser", 2.96, 0.55, 74, 0.4
   at ibeat + 3, "Suck", 1, 0.6
   at ibeat + 4, "Impact", 2, 0.75, 0, 0.8
   at ibeat + 4, "Crash", 4, 0.7
   at ibeat + 8, "Faller", 4, 0.4
-  hits ibeat, ibeat + 3, "Kick", Skick, 1, 0, idrive
+  if ibeat > 0 then
+    veil ibeat, ibeat + 3.9, 0.85, 0.2
+    veil ibeat + 4, ibeat + 4.1, 0, 0
+  endif
+  hits ibeat, ibeat + 3, "Kick", Sgathering, 1, 0, idrive
   hits ibeat + 4, ibeat + 15, "Kick", Skick, 1, 0, idrive
   hits ibeat + 4, ibeat + 15, "Clap", Sclap, 0.9
 endop
@@ -32,19 +36,19 @@ instr Swapper
 
   ; 1, the cube: the drop. The theme, plain.
   at 0, "Impact", 3, 1, 0, 0.9
-  shape 0, "X... X... X... X...", ".... X... .... X...", istraight
+  shape 0, "X... X... X... X...", "X... X... X... X...", ".... X... .... X...", istraight
   hits 3, 4, "Kick", "X.xX", 0.9
   play 0, 16, "Bass", gSSwapBass1, 1, 0, 0.5
   hits 0, 16, "Hat", "ooxo ooxo ooxo oxxr", 0.6
   hits 0, 16, "OpenHat", "..X. ..X. ..X. ..X.", 0.8
   hits 4, 16, "Clap", ".... .... .... ..o.", 0.6
   play 4, 16, "Tick", "g5 . . d5 . . . g5 . . bb5 . . d5 . .", 0.8, 0, 0.85
-  play 0, 16, "Lead", gSTheme, 0.85, 0, 0.4
+  play 0, 16, "Lead", gSTheme, 1.1, 0, 0.55
   play 0, 16, "Stab", "g2 . . . . . g2 . . . . . . . . .", 0.5, 0, 0.4
   hits 15, 16, "Tom", "x.xx", 0.8, 43, 0.2
 
   ; 2, the spikes: no theme, octave bass and needles
-  shape 16, "X... X... X... X...", ".... X... .... X...", istraight
+  shape 16, "X... X... X...", "X... X... X... X...", ".... X... .... X...", istraight
   hits 19, 20, "Snare", "x.xr", 0.7
   play 16, 32, "Bass", gSSwapBass2, 0.95, 0, 0.7
   hits 16, 32, "Hat", "xoXo xoXo xoXo xoXr", 0.5
@@ -57,7 +61,7 @@ instr Swapper
   hits 31, 32, "Snare", "xxrr", 0.7, 0, 0.2
 
   ; 3, the ball: the theme in two voices over moving roots
-  shape 32, "X... X... X... X...", ".... X... .... X..o", istraight
+  shape 32, "X... .... X... ..x.", "X... X... X... X...", ".... X... .... X..o", istraight
   hits 35, 36, "Tom", "x.xx", 0.8, 38, 0.8
   play 32, 48, "Bass", gSSwapBass3, 0.95, 0, 0.55
   hits 32, 48, "Hat", "o.xo ooxo o.xo oxxo", 0.6
@@ -89,7 +93,7 @@ instr Swapper
 
   ; 5, the cross: the heaviest. Driven kick, the theme in the basement.
   at 64, "Impact", 3, 0.9, 0, 0.7
-  shape 64, "X... X... X... X...", ".... X... .... X...", 0.6
+  shape 64, "X... X... X... X...", "X... X... X... X...", ".... X... .... X...", 0.6
   hits 67, 68, "Kick", "XxXx", 0.9, 0, 0.6
   play 64, 80, "Bass", gSSwapBass5, 1, 0, 0.95
   hits 64, 80, "Rumble", "..xx ..xx ..xx ..xx", 0.5, 31, 0.4
@@ -102,7 +106,8 @@ instr Swapper
   hits 79, 80, "Snare", "xrxr", 0.7, 0, 0.2
 
   ; 6, the tetrahedron: everything, up to the edge
-  shape 80, "X... X... X... X...", ".... X... .... X...", 0.3
+  shape 80, "X... .... .... ....", "X... X... X... X...", ".... X... .... X...", 0.3
+  hits 81, 83, "Snare", "o.o. xoxo", 0.6, 0, 0.2
   hits 83, 84, "Snare", "xxrr", 0.8, 0, 0.4
   play 80, 95, "Bass", gSSwapBass3, 1, 0, 0.75
   hits 80, 95, "Hat", "oxXo oxXo oxXo oxXr", 0.6
@@ -115,5 +120,6 @@ instr Swapper
   at 88, "Riser", 7, 0.9, 86, 0.6
   hits 92, 94, "Snare", "o.o. o.o. xoxo xoxo", 0.6, 0, 0.2
   hits 94, 95, "Snare", "XXrr", 0.9, 0, 0.5
-  hush 95, 96
+  hush 93.86, 94
+  chop 94, 95, 96
 endin

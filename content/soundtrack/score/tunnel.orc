@@ -62,4 +62,7 @@ instr Tunnel
   play 56, 72, "Lead", gSTheme, 0.75, 7, 0.8
   play 56, 72, "Stab", ". . g2 . . . g2 . . . g2 . . . g2 .", 0.45, 7, 0.7
   at 60, "Riser", 12, 0.7, 86, 0.7
+
+  ; Half a beat of nothing before the title
+  hush 71.5, 72
 endin
