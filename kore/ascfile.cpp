@@ -97,10 +97,16 @@ AscFile::Part AscFile::ReadHeader() {
 
 AscFile::Part AscFile::ReadVertices() {
     std::string_view line;
-    while (NextLine(line)) {
+    for (;;) {
+        // Plain lines, which are nearly all, are taken without a look for keywords.
+        while (std::size_t const taken = parse_plain_vertex(Rest(), vertex)) {
+            at += taken;
+            if (!AddVertex()) return Part::Fault;
+        }
+        if (!NextLine(line)) break;
         if (is_short(line)) return Part::Short;
         if (contains(line, "Vertex list:")) continue;
-        if (contains(line, "Vertex") && !AddVertex(line)) return Part::Fault;
+        if (contains(line, "Vertex") && !ScanVertex(line)) return Part::Fault;
         if (contains(line, "Face list:")) break;
     }
     if (vertices_read == 0 || vertices_read != vertex_count) {
@@ -112,8 +118,13 @@ AscFile::Part AscFile::ReadVertices() {
 
 AscFile::Part AscFile::ReadFaces() {
     std::string_view line;
-    while (NextLine(line) && !is_short(line)) {
-        if (contains(line, "Face") && !AddFace(line)) return Part::Fault;
+    for (;;) {
+        while (std::size_t const taken = parse_plain_face(Rest(), face)) {
+            at += taken;
+            if (!AddFace()) return Part::Fault;
+        }
+        if (!NextLine(line) || is_short(line)) break;
+        if (contains(line, "Face") && !ScanFace(line)) return Part::Fault;
     }
     if (faces_read == 0 || faces_read != face_count) {
         Fail("Bad file format, face count mismatch. Reported: " + std::to_string(face_count) +
@@ -123,31 +134,37 @@ AscFile::Part AscFile::ReadFaces() {
     return Part::Done;
 }
 
-bool AscFile::AddVertex(std::string_view line) {
+bool AscFile::ScanVertex(std::string_view line) {
+    int index = 0;
+    std::sscanf(Terminated(line), "Vertex %d: X:%f Y:%f Z:%f", &index, &vertex[0], &vertex[1], &vertex[2]);
+    return AddVertex();
+}
+
+bool AscFile::AddVertex() {
     if (vertices_read == max_vertices) {
         return Fail("Bad file format, more than " + std::to_string(max_vertices) + " vertices.");
-    }
-    if (!parse_plain_vertex(line, vertex)) {
-        int index = 0;
-        std::sscanf(Terminated(line), "Vertex %d: X:%f Y:%f Z:%f", &index, &vertex[0], &vertex[1], &vertex[2]);
     }
     std::memcpy(work->vertices[vertices_read], vertex, sizeof vertex);
     ++vertices_read;
     return true;
 }
 
-bool AscFile::AddFace(std::string_view line) {
-    if (faces_read == max_faces) return Fail("Bad file format, more than " + std::to_string(max_faces) + " faces.");
-    bool const plain = parse_plain_face(line, face);
+bool AscFile::ScanFace(std::string_view line) {
+    int index = 0;
     long long corners[3] = {face[0], face[1], face[2]}; // wide, as the counts are
-    if (!plain) {
-        int index = 0;
-        std::sscanf(Terminated(line), "Face %d: A:%lld B:%lld C:%lld AB:%d BC:%d CA:%d", &index, &corners[0],
-                    &corners[1], &corners[2], &face[3], &face[4], &face[5]);
-    }
+    std::sscanf(Terminated(line), "Face %d: A:%lld B:%lld C:%lld AB:%d BC:%d CA:%d", &index, &corners[0], &corners[1],
+                &corners[2], &face[3], &face[4], &face[5]);
     for (int corner = 0; corner < 3; ++corner) {
         if (!IsVertex(corners[corner])) return false;
         face[corner] = static_cast<int>(corners[corner]);
+    }
+    return AddFace();
+}
+
+bool AscFile::AddFace() {
+    if (faces_read == max_faces) return Fail("Bad file format, more than " + std::to_string(max_faces) + " faces.");
+    for (int corner = 0; corner < 3; ++corner) {
+        if (!IsVertex(face[corner])) return false;
         work->faces[faces_read][corner] = face[corner];
         work->edges[faces_read][corner] = face[corner + 3];
     }

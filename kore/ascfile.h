@@ -70,11 +70,15 @@ private:
     enum class Part { Done, Short, Fault };
 
     bool NextLine(std::string_view& line);
+    /// What has not been read yet, from the start of a line on.
+    std::string_view Rest() const { return at < text.size() ? std::string_view(text).substr(at) : std::string_view(); }
     Part ReadHeader();
     Part ReadVertices();
     Part ReadFaces();
-    bool AddVertex(std::string_view line);
-    bool AddFace(std::string_view line);
+    bool ScanVertex(std::string_view line);
+    bool ScanFace(std::string_view line);
+    bool AddVertex();
+    bool AddFace();
     bool IsVertex(long long corner);
     bool Fail(std::string message);
     char const* Terminated(std::string_view line);
