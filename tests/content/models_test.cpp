@@ -11,6 +11,7 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -32,6 +33,8 @@ struct Model {
     double tolerance;    ///< of each side of the box, units
     int fewest, most;    ///< faces
 };
+
+[[maybe_unused]] void PrintTo(Model const& model, std::ostream* out) { *out << model.object; }
 
 // file, object, kind, use, box low and high, tolerance, faces
 std::vector<Model> const models = {
@@ -58,7 +61,7 @@ std::vector<Model> const models = {
      {8.507, 8.507, 8.507},
      0.01,                                                                                                                        300,
      900                                                                                                                                    },
-    {"infinity",             "infinity",             solid, shattered, {-4.8, -4.8, -10},           {4.8, 4.8, 10},        0.1,   400,  900 },
+    {"infinity",             "infinity",             solid, shattered, {-4.9, -4.9, -10},           {4.9, 4.9, 10},        0.1,   400,  900 },
     {"maltanristi",          "maltanristi",          solid, shattered, {-6.06, -6.06, -8.02},       {6.06, 6.06, 8.02},    0.05,  400,  900 },
     {"gun_silhouette",       "gun_silhouette",       flat,  whole,     {-4, -2.5, 0},               {4, 2.5, 0},           1.2,   50,   600 },
     {"credits",              "credits",              flat,  whole,     {-4.1, -11, 0},              {2.3, 4, 0},           0.2,   300,  3000},
@@ -82,14 +85,14 @@ std::vector<Model> const models = {
      {1.7013, 1.7013, 1.7013},
      0.001,                                                                                                                       300,
      1500                                                                                                                                   },
-    {"greetings",            "Arbalest",             solid, whole,     {-1.72, -0.36, -0.1},        {1.72, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Pixelherds",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Lanternfly",           solid, whole,     {-2.09, -0.36, -0.1},        {2.09, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Mirevolt",             solid, whole,     {-1.64, -0.36, -0.1},        {1.64, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Quartzine",            solid, whole,     {-1.84, -0.36, -0.1},        {1.84, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Tundrabeat",           solid, whole,     {-2.21, -0.36, -0.1},        {2.21, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Obelisk_K",            solid, whole,     {-1.70, -0.36, -0.1},        {1.70, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Heavy_Cart",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Arbalest",             solid, whole,     {-1.78, -0.36, -0.1},        {1.78, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Pixelherds",           solid, whole,     {-2.12, -0.36, -0.1},        {2.12, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Lanternfly",           solid, whole,     {-2.16, -0.36, -0.1},        {2.16, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Mirevolt",             solid, whole,     {-1.69, -0.36, -0.1},        {1.69, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Quartzine",            solid, whole,     {-1.90, -0.36, -0.1},        {1.90, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Tundrabeat",           solid, whole,     {-2.29, -0.36, -0.1},        {2.29, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Obelisk_K",            solid, whole,     {-1.76, -0.36, -0.1},        {1.76, 0.68, 0.1},     0.02,  200,  1800},
+    {"greetings",            "Heavy_Cart",           solid, whole,     {-2.13, -0.36, -0.1},        {2.13, 0.68, 0.1},     0.02,  200,  1800},
 };
 
 std::set<std::string> files() {
@@ -293,6 +296,42 @@ TEST_P(EveryModel, ShattersIntoPiecesWithDecentAngles) {
         thin += angle < 15.0 ? 1 : 0;
     }
     EXPECT_LT(static_cast<double>(thin), 0.1 * static_cast<double>(object->faces.size()));
+}
+
+TEST(Solids, ReachExactlyToTheirRadius) {
+    struct {
+        char const* name;
+        double radius; ///< of the vertex farthest from the origin
+    } const cases[] = {
+        {"framecube",          10.5},
+        {"frametetrahedron",   10.5},
+        {"frameoctoball",      6.5 },
+        {"spikeydodecahedron", 10.0},
+        {"hollowsoccerball",   4   },
+        {"frameicosahedron",   2   }
+    };
+    for (auto const& [name, radius] : cases) {
+        SCOPED_TRACE(name);
+        ASSERT_EQ(read(name).objects.size(), 1U);
+        double farthest = 0.0;
+        for (asc::Vec3 const& p : read(name).objects[0].object.vertices) farthest = std::max(farthest, asc::length(p));
+        EXPECT_NEAR(farthest, radius, 2e-6);
+    }
+}
+
+// The shells turn about the origin and the shattered shapes about theirs: mirror images of their points must be there
+// too.
+TEST(Solids, OfBarsAreSymmetrical) {
+    for (char const* const name : {"frameoctoball", "hollowsoccerball", "frameicosahedron", "torus2", "donut2"}) {
+        SCOPED_TRACE(name);
+        asc::Object const& object = read(name).objects.at(0).object;
+        for (asc::Vec3 const& p : object.vertices) {
+            asc::Vec3 const opposite = p * -1.0;
+            EXPECT_TRUE(std::any_of(object.vertices.begin(), object.vertices.end(),
+                                    [&](asc::Vec3 const& q) { return asc::length(q - opposite) < 5e-6; }))
+                << p.x << ", " << p.y << ", " << p.z;
+        }
+    }
 }
 
 TEST(Glass, FillsThePaneToItsCorners) {
