@@ -15,6 +15,6 @@ module plain(letters) slab(1.2) resize([0, 9.6]) word(letters, 9.6);
 
 // The name with a small x at its foot.
 module tag() {
-    word("QUILLON", 9.2);
-    translate([24.9, 0]) word("X", 4.6);
+    word("QUILLON", 9.2, spacing = 1.06);
+    translate([26.3, 0]) word("X", 4.6);
 }

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -19,82 +20,67 @@ namespace {
 
 std::string const data_folder = HARDSILENCE_SOURCE_DIR "/data/";
 
-enum Kind { flat, solid };
-enum Use { whole, shattered };
+enum Kind { flat, flat_shattered, solid, solid_shattered };
+bool is_flat(Kind kind) { return kind == flat || kind == flat_shattered; }
+bool is_shattered(Kind kind) { return kind == flat_shattered || kind == solid_shattered; }
 
-/// What one object should be: its box in units of the mesh, and its number of faces.
+char const* const same = ""; ///< a file named like its one object
+
+/// What one object should be. Centre and half extents of its box are in units of the mesh.
 struct Model {
-    char const* file;
+    char const* in_file;
     char const* object;
     Kind kind;
-    Use use;
-    asc::Vec3 low, high; ///< the box
-    double tolerance;    ///< of each side of the box, units
-    int fewest, most;    ///< faces
-};
+    asc::Vec3 centre, half;
+    double tolerance; ///< of each side of the box, units
+    int fewest, most; ///< faces
 
-// file, object, kind, use, box low and high, tolerance, faces
+    std::string file() const { return *in_file ? in_file : object; }
+};
+[[maybe_unused]] void PrintTo(Model const& model, std::ostream* out) { *out << model.object; }
+
 std::vector<Model> const models = {
-    {"weknow",               "We",                   solid, whole,     {-6.0, -4.8, -0.6},          {3.0, 4.8, 0.6},       0.05,  80,   900 },
-    {"weknow",               "Know",                 solid, whole,     {-10.3, -4.8, -0.6},         {7.3, 4.8, 0.6},       0.05,  100,  900 },
-    {"weknow",               "What",                 solid, whole,     {-10.2, -4.8, -0.6},         {7.2, 4.8, 0.6},       0.05,  100,  900 },
-    {"weknow",               "Are",                  solid, whole,     {-7.25, -4.8, -0.6},         {4.25, 4.8, 0.6},      0.05,  100,  900 },
-    {"weknow",               "Doing",                solid, whole,     {-10.3, -4.8, -0.6},         {7.3, 4.8, 0.6},       0.05,  100,  900 },
-    {"weknow",               "QUILLONx",             solid, whole,     {-15.5, -4.6, -0.8},         {14.5, 4.6, 0.8},      0.05,  200,  1500},
-    {"glass",                "glass",                flat,  shattered, {-3.6, -3.2, 0},             {3.6, 3.2, 0},         0.01,  200,  350 },
-    {"gungirl_silhouette",   "gungirl_silhouette",   flat,  shattered, {-1.7, -4.75, 0},            {1.7, 4.75, 0},        0.35,  1000, 1600},
-    {"donut2",               "donut2",               solid, whole,     {-0.92, -0.92, -0.04},       {0.92, 0.92, 0.04},    0.005, 1000, 1500},
-    {"framecube",            "framecube",            solid, shattered, {-6.062, -6.062, -6.062},    {6.062, 6.062, 6.062}, 0.01,  500,  900 },
-    {"frametetrahedron",
-     "frametetrahedron",                             solid,
-     shattered,                                                        {-6.062, -6.062, -6.062},
-     {6.062, 6.062, 6.062},
-     0.01,                                                                                                                        500,
-     900                                                                                                                                    },
-    {"frameoctoball",        "frameoctoball",        solid, shattered, {-6.5, -6.5, -6.5},          {6.5, 6.5, 6.5},       0.01,  400,  600 },
-    {"spikeydodecahedron",
-     "spikeydodecahedron",                           solid,
-     shattered,                                                        {-8.507, -8.507, -8.507},
-     {8.507, 8.507, 8.507},
-     0.01,                                                                                                                        300,
-     900                                                                                                                                    },
-    {"infinity",             "infinity",             solid, shattered, {-4.8, -4.8, -10},           {4.8, 4.8, 10},        0.1,   400,  900 },
-    {"maltanristi",          "maltanristi",          solid, shattered, {-6.06, -6.06, -8.02},       {6.06, 6.06, 8.02},    0.05,  400,  900 },
-    {"gun_silhouette",       "gun_silhouette",       flat,  whole,     {-4, -2.5, 0},               {4, 2.5, 0},           1.2,   50,   600 },
-    {"credits",              "credits",              flat,  whole,     {-4.1, -11, 0},              {2.3, 4, 0},           0.2,   300,  3000},
-    {"butt_silhouette",      "butt_silhouette",      flat,  whole,     {-0.4, -4.5, 0},             {2.2, 4.5, 0},         0.4,   300,  2500},
-    {"side2_silhouette",     "side2_silhouette",     flat,  whole,     {-0.4, -4.5, 0},             {2.2, 4.5, 0},         0.4,   300,  2500},
-    {"sideview_silhouette",  "sideview_silhouette",  flat,  whole,     {-2.2, -4.5, 0},             {0.4, 4.5, 0},         0.4,   300,  2500},
-    {"torus2",               "torus2",               solid, whole,     {-3.62, -3.62, -0.42},       {3.62, 3.62, 0.42},    0.01,  400,  600 },
-    {"tentacles_silhouette", "tentacles_silhouette", flat,  whole,     {-5, -5, -0.02},             {5, 5, -0.02},         2.5,   400,  2500},
-    {"QUILLONx-title",       "QUILLONx-title",       flat,  whole,     {-36, -7.5, 0},              {36, 7.5, 0},          0.01,  80,   1500},
-    {"HARD-title",           "HARD-title",           flat,  whole,     {-0.6, -0.22, 0},            {0.6, 0.30, 0},        0.001, 60,   600 },
-    {"SILENCE-title",        "SILENCE-title",        flat,  whole,     {-2.8, -0.88, 0},            {2.8, 0.28, 0},        0.005, 80,   900 },
-    {"hollowsoccerball",
-     "hollowsoccerball",                             solid,
-     whole,                                                            {-3.918, -3.918, -3.918},
-     {3.918, 3.918, 3.918},
-     0.01,                                                                                                                        1000,
-     2000                                                                                                                                   },
-    {"frameicosahedron",
-     "frameicosahedron",                             solid,
-     whole,                                                            {-1.7013, -1.7013, -1.7013},
-     {1.7013, 1.7013, 1.7013},
-     0.001,                                                                                                                       300,
-     1500                                                                                                                                   },
-    {"greetings",            "Arbalest",             solid, whole,     {-1.72, -0.36, -0.1},        {1.72, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Pixelherds",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Lanternfly",           solid, whole,     {-2.09, -0.36, -0.1},        {2.09, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Mirevolt",             solid, whole,     {-1.64, -0.36, -0.1},        {1.64, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Quartzine",            solid, whole,     {-1.84, -0.36, -0.1},        {1.84, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Tundrabeat",           solid, whole,     {-2.21, -0.36, -0.1},        {2.21, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Obelisk_K",            solid, whole,     {-1.70, -0.36, -0.1},        {1.70, 0.68, 0.1},     0.02,  200,  1800},
-    {"greetings",            "Heavy_Cart",           solid, whole,     {-2.05, -0.36, -0.1},        {2.05, 0.68, 0.1},     0.02,  200,  1800},
+  // file, object, kind, centre, half extents, tolerance, faces
+    {"weknow",    "We",                   solid,           {-1.5, 0, 0},    {4.5, 4.8, 0.6},          0.02,  80,   900 },
+    {"weknow",    "Know",                 solid,           {-1.5, 0, 0},    {8.82, 4.8, 0.6},         0.02,  100,  900 },
+    {"weknow",    "What",                 solid,           {-1.5, 0, 0},    {8.73, 4.8, 0.6},         0.02,  100,  900 },
+    {"weknow",    "Are",                  solid,           {-1.5, 0, 0},    {5.76, 4.8, 0.6},         0.02,  100,  900 },
+    {"weknow",    "Doing",                solid,           {-1.5, 0, 0},    {8.78, 4.8, 0.6},         0.02,  100,  900 },
+    {"weknow",    "QUILLONx",             solid,           {-0.5, 0, 0},    {15, 4.6, 0.8},           0.02,  200,  1500},
+    {same,        "glass",                flat_shattered,  {0, 0, 0},       {3.6, 3.2, 0},            0.001, 200,  350 },
+    {same,        "gungirl_silhouette",   flat_shattered,  {0, 0, 0},       {1.7, 4.75, 0},           0.35,  1000, 1600},
+    {same,        "donut2",               solid,           {0, 0, 0},       {0.92, 0.92, 0.04},       0.001, 1000, 1500},
+    {same,        "framecube",            solid_shattered, {0, 0, 0},       {6.062, 6.062, 6.062},    0.001, 500,  900 },
+    {same,        "frametetrahedron",     solid_shattered, {0, 0, 0},       {6.062, 6.062, 6.062},    0.001, 500,  900 },
+    {same,        "frameoctoball",        solid_shattered, {0, 0, 0},       {6.5, 6.5, 6.5},          0.001, 400,  600 },
+    {same,        "spikeydodecahedron",   solid_shattered, {0, 0, 0},       {8.507, 8.507, 8.507},    0.001, 300,  900 },
+    {same,        "infinity",             solid_shattered, {0, 0, 0},       {4.9, 4.9, 10},           0.1,   400,  900 },
+    {same,        "maltanristi",          solid_shattered, {0, 0, 0},       {6.06, 6.06, 8.02},       0.02,  400,  900 },
+    {same,        "gun_silhouette",       flat,            {0, 0, 0},       {4, 2.5, 0},              1.2,   50,   600 },
+    {same,        "credits",              flat,            {-0.9, -3.5, 0}, {3.2, 7.5, 0},            0.2,   300,  3000},
+    {same,        "butt_silhouette",      flat,            {0.9, 0, 0},     {1.3, 4.5, 0},            0.4,   300,  2500},
+    {same,        "side2_silhouette",     flat,            {0.9, 0, 0},     {1.3, 4.5, 0},            0.4,   300,  2500},
+    {same,        "sideview_silhouette",  flat,            {-0.9, 0, 0},    {1.3, 4.5, 0},            0.4,   300,  2500},
+    {same,        "torus2",               solid,           {0, 0, 0},       {3.62, 3.62, 0.42},       0.001, 400,  600 },
+    {same,        "tentacles_silhouette", flat,            {0, 0, -0.02},   {5, 5, 0},                2.5,   400,  2500},
+    {same,        "QUILLONx-title",       flat,            {0, 0, 0},       {36, 7.5, 0},             0.01,  80,   1500},
+    {same,        "HARD-title",           flat,            {0, 0.04, 0},    {0.6, 0.26, 0},           0.001, 60,   600 },
+    {same,        "SILENCE-title",        flat,            {0, -0.3, 0},    {2.8, 0.58, 0},           0.005, 80,   900 },
+    {same,        "hollowsoccerball",     solid,           {0, 0, 0},       {3.918, 3.918, 3.918},    0.001, 1000, 2000},
+    {same,        "frameicosahedron",     solid,           {0, 0, 0},       {1.7013, 1.7013, 1.7013}, 0.001, 300,  1500},
+    {"greetings", "Arbalest",             solid,           {0, 0.16, 0},    {1.78, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Pixelherds",           solid,           {0, 0.16, 0},    {2.12, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Lanternfly",           solid,           {0, 0.16, 0},    {2.16, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Mirevolt",             solid,           {0, 0.16, 0},    {1.69, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Quartzine",            solid,           {0, 0.16, 0},    {1.9, 0.52, 0.1},         0.02,  200,  1800},
+    {"greetings", "Tundrabeat",           solid,           {0, 0.16, 0},    {2.29, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Obelisk_K",            solid,           {0, 0.16, 0},    {1.76, 0.52, 0.1},        0.02,  200,  1800},
+    {"greetings", "Heavy_Cart",           solid,           {0, 0.16, 0},    {2.13, 0.52, 0.1},        0.02,  200,  1800},
 };
 
 std::set<std::string> files() {
     std::set<std::string> all;
-    for (Model const& model : models) all.insert(model.file);
+    for (Model const& model : models) all.insert(model.file());
     return all;
 }
 
@@ -111,7 +97,7 @@ asc::ReadFile const& read(std::string const& file) {
 }
 
 asc::Object const* find(Model const& model) {
-    for (auto const& some : read(model.file).objects)
+    for (auto const& some : read(model.file()).objects)
         if (some.object.name == model.object) return &some.object;
     return nullptr;
 }
@@ -148,7 +134,7 @@ TEST(DataFolder, HoldsLessThanTwelveMegabytesOfMeshes) {
 TEST_P(EveryFile, HoldsItsObjectsInTheOrderOfTheTable) {
     std::vector<std::string> expected, found;
     for (Model const& model : models)
-        if (model.file == GetParam()) expected.emplace_back(model.object);
+        if (model.file() == GetParam()) expected.emplace_back(model.object);
     for (auto const& some : read(GetParam()).objects) found.push_back(some.object.name);
     EXPECT_EQ(found, expected);
 }
@@ -193,15 +179,15 @@ TEST_P(EveryFile, HasOneBlankLineBeforeEachNameButTheFirstAndNoOther) {
 TEST_P(EveryModel, FillsItsBox) {
     Model const& model = GetParam();
     asc::Object const* const object = find(model);
-    ASSERT_TRUE(object) << model.file << " holds no " << model.object;
+    ASSERT_TRUE(object) << model.file() << " holds no " << model.object;
     auto const [low, high] = asc::box_of(*object);
-    EXPECT_NEAR(low.x, model.low.x, model.tolerance);
-    EXPECT_NEAR(low.y, model.low.y, model.tolerance);
-    EXPECT_NEAR(high.x, model.high.x, model.tolerance);
-    EXPECT_NEAR(high.y, model.high.y, model.tolerance);
-    double const depth_tolerance = model.kind == flat ? 1e-6 : model.tolerance;
-    EXPECT_NEAR(low.z, model.low.z, depth_tolerance);
-    EXPECT_NEAR(high.z, model.high.z, depth_tolerance);
+    double const deep = is_flat(model.kind) ? 1e-6 : model.tolerance;
+    EXPECT_NEAR(low.x, model.centre.x - model.half.x, model.tolerance);
+    EXPECT_NEAR(high.x, model.centre.x + model.half.x, model.tolerance);
+    EXPECT_NEAR(low.y, model.centre.y - model.half.y, model.tolerance);
+    EXPECT_NEAR(high.y, model.centre.y + model.half.y, model.tolerance);
+    EXPECT_NEAR(low.z, model.centre.z - model.half.z, deep);
+    EXPECT_NEAR(high.z, model.centre.z + model.half.z, deep);
 }
 
 TEST_P(EveryModel, HasAsManyFacesAsItsSceneBears) {
@@ -211,7 +197,7 @@ TEST_P(EveryModel, HasAsManyFacesAsItsSceneBears) {
     int const faces = static_cast<int>(object->faces.size());
     EXPECT_GE(faces, model.fewest);
     EXPECT_LE(faces, model.most);
-    EXPECT_LE(faces, model.use == shattered ? 10000 : 100000);
+    EXPECT_LE(faces, is_shattered(model.kind) ? 10000 : 100000);
 }
 
 // Written out once more here, without the tool's own notion of creases and of drawing.
@@ -260,7 +246,7 @@ TEST_P(EveryModel, IsClosedAndLooksOutwardOrLiesFlatAndLooksToTheViewer) {
             balance[line(from, to)] += from < to ? 1 : -1;
             ++count[line(from, to)];
         }
-        if (model.kind == flat) {
+        if (is_flat(model.kind)) {
             EXPECT_NEAR(unit_normal(*object, face).z, 1.0, 1e-9);
         }
         auto const at = [&](std::size_t i) { return object->vertices[static_cast<std::size_t>(face.v[i])]; };
@@ -271,11 +257,11 @@ TEST_P(EveryModel, IsClosedAndLooksOutwardOrLiesFlatAndLooksToTheViewer) {
         if (faces == 2) {
             ASSERT_EQ(balance[side], 0) << side.first << "-" << side.second;
         }
-        if (model.kind == solid) {
+        if (!is_flat(model.kind)) {
             ASSERT_EQ(faces, 2) << side.first << "-" << side.second;
         }
     }
-    if (model.kind == solid) {
+    if (!is_flat(model.kind)) {
         EXPECT_GT(volume, 0.0);
     }
 }
@@ -285,7 +271,7 @@ TEST_P(EveryModel, ShattersIntoPiecesWithDecentAngles) {
     Model const& model = GetParam();
     asc::Object const* const object = find(model);
     ASSERT_TRUE(object);
-    if (model.use != shattered || model.object == std::string("frameoctoball")) GTEST_SKIP() << "not shattered";
+    if (!is_shattered(model.kind) || model.object == std::string("frameoctoball")) GTEST_SKIP() << "not shattered";
     std::size_t thin = 0;
     for (asc::Face const& face : object->faces) {
         double const angle = asc::smallest_angle(*object, face);
@@ -293,6 +279,42 @@ TEST_P(EveryModel, ShattersIntoPiecesWithDecentAngles) {
         thin += angle < 15.0 ? 1 : 0;
     }
     EXPECT_LT(static_cast<double>(thin), 0.1 * static_cast<double>(object->faces.size()));
+}
+
+TEST(Solids, ReachExactlyToTheirRadius) {
+    struct {
+        char const* name;
+        double radius; ///< of the vertex farthest from the origin
+    } const cases[] = {
+        {"framecube",          10.5},
+        {"frametetrahedron",   10.5},
+        {"frameoctoball",      6.5 },
+        {"spikeydodecahedron", 10.0},
+        {"hollowsoccerball",   4   },
+        {"frameicosahedron",   2   }
+    };
+    for (auto const& [name, radius] : cases) {
+        SCOPED_TRACE(name);
+        ASSERT_EQ(read(name).objects.size(), 1U);
+        double farthest = 0.0;
+        for (asc::Vec3 const& p : read(name).objects[0].object.vertices) farthest = std::max(farthest, asc::length(p));
+        EXPECT_NEAR(farthest, radius, 2e-6);
+    }
+}
+
+// The shells turn about the origin and the shattered shapes about theirs: mirror images of their points must be there
+// too.
+TEST(Solids, OfBarsAreSymmetrical) {
+    for (char const* const name : {"frameoctoball", "hollowsoccerball", "frameicosahedron", "torus2", "donut2"}) {
+        SCOPED_TRACE(name);
+        asc::Object const& object = read(name).objects.at(0).object;
+        for (asc::Vec3 const& p : object.vertices) {
+            asc::Vec3 const opposite = p * -1.0;
+            EXPECT_TRUE(std::any_of(object.vertices.begin(), object.vertices.end(),
+                                    [&](asc::Vec3 const& q) { return asc::length(q - opposite) < 5e-6; }))
+                << p.x << ", " << p.y << ", " << p.z;
+        }
+    }
 }
 
 TEST(Glass, FillsThePaneToItsCorners) {

@@ -157,19 +157,20 @@ std::vector<std::size_t> agree(Object& object, Edges const& edges, std::size_t f
 }
 
 /// True when the part should look the other way.
-bool inside_out(Object const& object, std::vector<std::size_t> const& part) {
-    Object alone;
-    alone.vertices = object.vertices;
+bool inside_out(Object const& object, Edges const& edges, std::vector<std::size_t> const& part) {
     Vec3 sum;
-    double spread = 0.0;
+    double spread = 0.0, six_volumes = 0.0;
+    bool ends = false;
     for (std::size_t f : part) {
-        alone.faces.push_back(object.faces[f]);
+        auto const& v = object.faces[f].v;
+        auto const at = [&](std::size_t i) { return object.vertices[static_cast<std::size_t>(v[i])]; };
         Vec3 const n = face_normal(object, object.faces[f]);
         sum = sum + n;
         spread += std::hypot(n.x, n.y);
+        six_volumes += dot(at(0), cross(at(1), at(2)));
+        for (std::size_t i = 0; i < 3; ++i) ends = ends || edges.at(std::minmax(v[i], v[(i + 1) % 3])).size() != 2;
     }
-    if (closed(edges_of(alone))) return volume(alone) < 0.0;
-    return spread < 1e-3 * std::abs(sum.z) && sum.z < 0.0;
+    return ends ? spread < 1e-3 * std::abs(sum.z) && sum.z < 0.0 : six_volumes < 0.0;
 }
 
 } // namespace
@@ -187,7 +188,7 @@ void wind(Object& object) {
     for (std::size_t first = 0; first < object.faces.size(); ++first) {
         if (seen[first]) continue;
         auto const part = agree(object, edges, first, seen);
-        if (!inside_out(object, part)) continue;
+        if (!inside_out(object, edges, part)) continue;
         for (std::size_t f : part) turn_over(object.faces[f]);
     }
 }
