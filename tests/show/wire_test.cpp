@@ -1,8 +1,10 @@
 #include "tests/show/scenechecks.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 using namespace scenes;
+using testing::HasSubstr;
 
 namespace {
 
@@ -66,6 +68,99 @@ TEST(Tunnelgate, FlashesTwiceOnEveryBeatButTheFirst) {
     }
     EXPECT_EQ(flashes[0], 0);
     for (std::size_t b = 1; b < 72; ++b) EXPECT_EQ(flashes[b], 2) << "beat " << b;
+}
+
+/// Sets the variable that chooses the wire's calls, for as long as it lives.
+class WireVariable {
+public:
+    explicit WireVariable(char const* value) {
+        if (value) {
+            setenv("HARDSILENCE_WIRE", value, 1);
+        } else {
+            unsetenv("HARDSILENCE_WIRE");
+        }
+    }
+    ~WireVariable() { unsetenv("HARDSILENCE_WIRE"); }
+    WireVariable(WireVariable const&) = delete;
+    WireVariable& operator=(WireVariable const&) = delete;
+};
+
+/// What is drawn at a beat with a value of the variable.
+std::vector<gl::Draw> drawn(char const* value, double at) {
+    WireVariable const variable(value);
+    Stage s(wire_scene);
+    s.PlayTo(at).Draw();
+    return gl::draws();
+}
+
+std::string calls(char const* value) {
+    WireVariable const variable(value);
+    Stage s(wire_scene);
+    s.PlayTo(1.5).Draw();
+    return gl::calls();
+}
+
+TEST(Tunnelgate, DrawsItsWireInsideOnePrimitiveUnlessToldOtherwise) {
+    std::string const bracketed = "Begin(QUADS) PushMatrix Translate(0,0,0) PushMatrix Rotate(0,0,0,90) Color(0,0,0) "
+                                  "CallList(torus2) Color(1,1,1) CallList(torus2/lines) PopMatrix PopMatrix PushMatrix";
+    for (char const* value : {static_cast<char const*>(nullptr), "", "0"}) {
+        EXPECT_THAT(calls(value), HasSubstr(bracketed));
+    }
+    EXPECT_THAT(calls("1"), testing::Not(HasSubstr(bracketed)));
+}
+
+TEST(Tunnelgate, LooksTheSameByTheStandardWithBothKindsOfCalls) {
+    for (double const at : {0.0, 1.0, 20.1, 33.3, 71.9}) {
+        SCOPED_TRACE(at);
+        auto const bracketed = drawn(nullptr, at);
+        auto const standard = drawn("1", at);
+        ASSERT_EQ(bracketed.size(), standard.size());
+        ASSERT_EQ(bracketed.size(), 2 * 99 + 2 + 901u);
+        // The first torus's faces are handed over in another way; everything after it is the same.
+        EXPECT_TRUE(bracketed[0].inside_primitive);
+        EXPECT_TRUE(standard[0].inside_primitive);
+        for (std::size_t i = 0; i < bracketed.size(); ++i) {
+            SCOPED_TRACE(testing::Message() << "draw " << i << ", " << bracketed[i].name);
+            EXPECT_TRUE(i == 0 || bracketed[i].list == standard[i].list || bracketed[i].name == standard[i].name);
+            ASSERT_EQ(bracketed[i].model_view, standard[i].model_view);
+            ASSERT_EQ(bracketed[i].color, standard[i].color);
+            ASSERT_EQ(bracketed[i].inside_primitive, standard[i].inside_primitive);
+        }
+    }
+}
+
+TEST(Tunnelgate, RaisesNoErrorInsideTheWireWithTheStandardsCalls) {
+    WireVariable const variable("1");
+    Stage s(wire_scene);
+    s.PlayTo(1.5).Draw();
+    // What is left are the pops of matrices that the first torus has taken away.
+    EXPECT_THAT(gl::errors(), testing::Each("STACK_UNDERFLOW PopMatrix"));
+}
+
+TEST(Tunnelgate, StandsTheTentaclesFixedBeforeTheViewerByTheStandard) {
+    for (double const at : {1.5, 40.0}) {
+        auto const draws = drawn(nullptr, at);
+        ASSERT_EQ(draws[198].name, "tentacles_silhouette");
+        expect_matrix(draws[198].model_view, [] {
+            glTranslatef(-0.3f, 0.3f, -1);
+            glScalef(0.2f, 0.2f, 1);
+        });
+        expect_matrix(draws[199].model_view, [] {
+            glTranslatef(0.3f, -0.7f, -1);
+            glRotatef(180, 1, 0, 0);
+            glRotatef(180, 0, 1, 0);
+            glScalef(0.2f, 0.2f, 1);
+        });
+    }
+}
+
+TEST(Tunnelgate, DrawsNinetyNineToriInBlackWithWhiteLines) {
+    Stage s(wire_scene);
+    EXPECT_THAT(s.PlayTo(1.5).Seen(),
+                testing::ElementsAre("torus2:0", "torus2/lines:1", "tentacles_silhouette:1", "tile:0", "tile:1"));
+    EXPECT_EQ(Stage::Count("torus2"), 99);
+    EXPECT_EQ(Stage::Count("torus2/lines"), 99);
+    EXPECT_EQ(Stage::Count("tentacles_silhouette"), 2);
 }
 
 } // namespace

@@ -1,0 +1,106 @@
+#include "kore/camera.h"
+#include "runtime/datafolder.h"
+#include "runtime/frame.h"
+#include "tests/support/glrecorder.h"
+#include "tests/support/temp.h"
+
+#include <GL/gl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+TEST(InitGl, SetsTheFixedStateInOrder) {
+    gl::reset();
+    init_gl();
+    EXPECT_EQ(gl::calls(),
+              "Enable(TEXTURE_2D) ClearDepth(1) ClearColor(0,0,0,0) DepthMask(1) Enable(DEPTH_TEST) "
+              "Hint(PERSPECTIVE_CORRECTION_HINT,NICEST) BlendFunc(SRC_ALPHA,ONE_MINUS_SRC_ALPHA) Enable(BLEND) "
+              "Disable(CULL_FACE) MatrixMode(PROJECTION) LoadIdentity Frustum(-1,1,-1,1,1,2000) "
+              "Enable(COLOR_MATERIAL) ShadeModel(SMOOTH) MatrixMode(MODELVIEW)");
+    EXPECT_TRUE(gl::errors().empty());
+}
+
+/// Notes when it is updated, in the log of OpenGL's calls.
+class Marker final : public kore::Entity {
+public:
+    char const* Name() override { return "Marker"; }
+    void UpdateLogic(kore::StateData const&) override { glLineWidth(7); }
+    void InternalDraw() override { glLineWidth(8); }
+    void Draw() override { InternalDraw(); }
+};
+
+class DrawFrame : public testing::Test {
+protected:
+    DrawFrame() {
+        gl::reset();
+        auto camera = std::make_shared<effect::Camera>();
+        camera->SetPos({0, 0, 10});
+        auto scene = std::make_shared<kore::Scene>("one");
+        scene->AddCamera(std::make_shared<kore::Enabler>(camera, 0, 4, 1.0f, true));
+        scene->AddEnabler(std::make_shared<kore::Enabler>(std::make_shared<Marker>(), 0, 4, 1.0f, true));
+        demo.AddScene(scene);
+        state.beat_count = 0;
+        glTranslatef(1, 2, 3); // left over by the frame before
+        gl::clear_log();
+    }
+    kore::Demo demo{1.0f};
+    kore::StateData state;
+    DebugCamera view;
+};
+
+TEST_F(DrawFrame, UpdatesAndThenDrawsThroughTheScenesCamera) {
+    draw_frame(demo, state, view);
+    EXPECT_EQ(gl::calls(), "LoadIdentity LineWidth(7) PushMatrix ClearColor(0,0,0,0) Clear(COLOR|DEPTH) "
+                           "LookAt(0,0,10,0,0,0,0,1,0) LineWidth(8) PopMatrix");
+}
+
+TEST_F(DrawFrame, LetsTheFreeCameraStandInForTheScenes) {
+    view.ToggleFree();
+    draw_frame(demo, state, view);
+    EXPECT_EQ(gl::calls(), "LoadIdentity LookAt(0,0,0,0,0,-1,0,1,0) LineWidth(7) PushMatrix ClearColor(0,0,0,0) "
+                           "Clear(COLOR|DEPTH) LineWidth(8) PopMatrix");
+}
+
+TEST_F(DrawFrame, DrawsNothingOnceTheShowIsOver) {
+    state.beat_count = 4;
+    draw_frame(demo, state, view);
+    EXPECT_EQ(gl::calls(), "LoadIdentity");
+    EXPECT_TRUE(demo.GetFinished());
+}
+
+/// Goes back to the source folder at the end.
+class DataFolder : public testing::Test {
+protected:
+    ~DataFolder() override { fs::current_path(HARDSILENCE_SOURCE_DIR); }
+
+    support::TempFolder const temp;
+};
+
+TEST_F(DataFolder, IsTheWorkingDirectoryIfThatHoldsData) {
+    fs::create_directory(temp.Path("data"));
+    fs::current_path(temp.Path(""));
+    EXPECT_TRUE(enter_data_folder(HARDSILENCE_SOURCE_DIR));
+    EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("")));
+}
+
+TEST_F(DataFolder, IsTheShareFolderIfThereIsNoneElse) {
+    fs::create_directories(temp.Path("share/data"));
+    fs::create_directory(temp.Path("work"));
+    fs::current_path(temp.Path("work"));
+    EXPECT_TRUE(enter_data_folder(temp.Path("share")));
+    EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("share")));
+}
+
+TEST_F(DataFolder, IsLeftWhereItIsIfThereIsNone) {
+    fs::current_path(temp.Path(""));
+    EXPECT_FALSE(enter_data_folder(""));
+    EXPECT_FALSE(enter_data_folder(temp.Path("nowhere")));
+    EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("")));
+    temp.Write("data", "a file and no folder");
+    EXPECT_FALSE(enter_data_folder(""));
+}
+
+} // namespace
