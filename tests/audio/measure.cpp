@@ -138,6 +138,38 @@ std::vector<double> folded_rises(std::vector<double> const& energy_ms, std::vect
     return sums;
 }
 
+std::vector<float> average(std::vector<float> const& signal, std::vector<std::size_t> const& starts,
+                           std::size_t length) {
+    std::vector<float> mean(length);
+    for (std::size_t start : starts)
+        for (std::size_t i = 0; i < length && start + i < signal.size(); ++i)
+            mean[i] += signal[start + i] / static_cast<float>(starts.size());
+    return mean;
+}
+
+Match find_shape(std::vector<float> const& signal, std::size_t start, std::vector<float> const& shape,
+                 double reach_ms) {
+    constexpr long step = samples_per_ms / 6;
+    Match best;
+    long const reach = std::lround(reach_ms * samples_per_ms);
+    for (long offset = -reach; offset <= reach; offset += step) {
+        long const first = static_cast<long>(start) + offset;
+        if (first < 0 || static_cast<std::size_t>(first) + shape.size() > signal.size()) continue;
+        double product = 0;
+        double power = 0;
+        double shape_power = 0;
+        for (std::size_t i = 0; i < shape.size(); ++i) {
+            double const sample = signal[static_cast<std::size_t>(first) + i];
+            product += sample * shape[i];
+            power += sample * sample;
+            shape_power += static_cast<double>(shape[i]) * shape[i];
+        }
+        double const likeness = product / std::sqrt(power * shape_power + 1e-20);
+        if (likeness > best.likeness) best = {static_cast<double>(offset) / samples_per_ms, likeness};
+    }
+    return best;
+}
+
 Loudness loudness(std::string const& path) {
     std::string said;
     Loudness result;

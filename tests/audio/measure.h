@@ -39,6 +39,20 @@ Onset find_onset(std::vector<double> const& energy_ms, double seconds, double re
 std::vector<double> folded_rises(std::vector<double> const& energy_ms, std::vector<double> const& seconds,
                                  int reach_ms);
 
+/// The mean of the stretches of `length` samples from each start, one value per sample: what they share stays, the rest
+/// fades. Samples past the end count as 0.
+std::vector<float> average(std::vector<float> const& signal, std::vector<std::size_t> const& starts,
+                           std::size_t length);
+
+/// Where a shape lies in a signal, and how well it fits.
+struct Match {
+    double offset_ms = 0; ///< milliseconds from the expected start
+    double likeness = -1; ///< cosine between both, -1 to 1
+};
+
+/// The best place for `shape` within `reach_ms` of sample `start`, in steps of a sixth of a millisecond.
+Match find_shape(std::vector<float> const& signal, std::size_t start, std::vector<float> const& shape, double reach_ms);
+
 /// What ffmpeg's ebur128 filter says of a file.
 struct Loudness {
     bool valid = false;

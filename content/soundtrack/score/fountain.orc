@@ -1,8 +1,8 @@
 ; Fountain, 64 beats: the climax, all voices. Every four beats four flashes, a fifth of a beat apart.
-gSFountainBass = {{ . g1 g1 g1!   . g1 g1 g2!   . g1 g1 g1!   . g1 g2 g1!  |
-                    . eb1 eb1 eb1! . eb1 eb1 eb2! . eb1 eb1 eb1! . eb1 eb2 f1! |
-                    . c2 c2 c2!   . c2 c2 c2!   . c2 c2 c2!   . c2 c2 bb1! |
-                    . ab1 ab1 ab1! . ab1 ab1 ab2! . d2 d2 d2!  . d2 d2 f#1! }}
+gSFountainBass = {{ . g1! g1 g1~    . g1! g1 g2~    . g1! g1 g1~    . g1! g2~ g1~   |
+                    . eb1! eb1 eb1~ . eb1! eb1 eb2~ . eb1! eb1 eb1~ . eb1! eb2~ f1~ |
+                    . c2! c2 c2~    . c2! c2 c3~    . c2! c2 c2~    . c2! c3~ bb1~  |
+                    . ab1! ab1 ab1~ . ab1! ab1 ab2~ . d2! d2 d2~    . d2! d3~ f#1~  }}
 
 ; The four flashes of a bar: its chord falls across the room, a fifth of a beat apart. The bar is counted from 0.
 opcode flashes, 0, iio
@@ -59,11 +59,11 @@ instr Fountain
   veil 32, 32.1, 0, 0
 
   ; Ground
-  play 0, 28, "Bass", gSFountainBass, 1, 0, 0.6
+  play 0, 28, "Bass", gSFountainBass, 0.92, 0, 0.6
   play 28, 32, "Reese", "ab1 - - - - - - - d2 - - - f#1 - - -", 0.9, 0, 0.8
-  play 32, 48, "Bass", gSFountainBass, 1, 0, 0.95
+  play 32, 48, "Bass", gSFountainBass, 0.92, 0, 0.95
   play 32, 48, "Reese", "g1 - - - | eb1 - - - | c2 - - - | ab1 - d2 -", 0.5, 12, 0.7, 1
-  play 48, 63, "Bass", gSFountainBass, 1, 2, 0.8
+  play 48, 63, "Bass", gSFountainBass, 0.92, 2, 0.8
   play 0, 48, "Pad", gSChords, 0.7, 0, 0.5, 1
   play 48, 63, "Pad", gSChords, 0.8, 2, 0.7, 1
 

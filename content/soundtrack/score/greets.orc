@@ -32,9 +32,11 @@ instr Greets
 
   ; The bell alone
   play 16, 32, "Choir", "g3+d4 - - - | g3+eb4 - - - | g3+c4 - - - | ab3+c4 - f#3+a3 -", 0.35, 0, 0.2, 1
-  play 16, 32, "Bell", gSTheme, 0.7, 0, 0.15
+  play 16, 24, "Bell", gSTheme, 0.7, 0, 0.15
+  play 24, 31.5, "Bell", "eb5 - - - - - - - g5 - - - - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.6, 0, 0.1
 
-  ; Home
+  ; A last half beat of nothing, and home
+  hush 31.5, 32
   at 32, "Bell", 4, 0.85, 67, 0.2
   at 32, "Bell", 4, 0.5, 55, 0.1
   at 32, "Impact", 4, 0.4, 0, 0.1
