@@ -14,7 +14,6 @@ constexpr int frames_part = 3;
 constexpr int beats_part = 110;
 static_assert(60 * recorded_rate * beats_part == one_beat * beats_per_minute * frames_part);
 
-constexpr double most_beats = 9998;
 constexpr std::size_t most_moments = 10000;
 
 std::vector<std::string> split(std::string const& text, char separator) {
@@ -50,11 +49,27 @@ bool add_range(std::vector<Millibeats>& moments, std::vector<std::string> const&
     return true;
 }
 
+/// The frames on which the show's clock counts its beats.
+std::vector<int> frames_of_whole_beats() {
+    BeatClock clock(beat2seconds(beats_per_minute, 4));
+    kore::StateData state;
+    std::vector<int> frames;
+    for (int frame = 0; state.beat_count < most_beats; ++frame) {
+        state.time = static_cast<float>(frame) / static_cast<float>(recorded_rate);
+        state.new_beat = false;
+        clock.Count(state);
+        if (state.new_beat) frames.push_back(frame);
+    }
+    return frames;
+}
+
 } // namespace
 
-int frame_at(Millibeats at) { return (frames_part * at + beats_part - 1) / beats_part; }
-
-bool frame_is_before(int frame, Millibeats moment) { return beats_part * frame < frames_part * moment; }
+int frame_at(Millibeats at) {
+    static std::vector<int> const counted = frames_of_whole_beats();
+    int const nominal = (frames_part * at + beats_part - 1) / beats_part;
+    return std::max(nominal, counted[static_cast<std::size_t>(at / one_beat)]);
+}
 
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text) {
     std::vector<Millibeats> moments;

@@ -12,15 +12,20 @@ constexpr Millibeats one_beat = 1000;
 /// The recorder's frames per second.
 constexpr int recorded_rate = 60;
 
-/// The first frame at or after a moment. At 132 beats a minute and 60 frames a second 11 beats are 300 frames.
-/// @param at  from the show's first beat, 0 or above
+/// No show of the recorder's is longer.
+constexpr int most_beats = 999;
+
+/// The first frame at or after a moment on which the show's clock has counted the moment's beat. At 132 beats a minute
+/// and 60 frames a second 11 beats are 300 frames; there the clock, which adds up in float, counts some beats (the 55th
+/// is the first) on the frame after.
+/// @param at  from the show's first beat, 0 to most_beats
 int frame_at(Millibeats at);
 
 /// Whether a frame lies before a moment.
-bool frame_is_before(int frame, Millibeats moment);
+inline bool frame_is_before(int frame, Millibeats moment) { return frame < frame_at(moment); }
 
 /// Reads "0.5,3.25" or "0:16:0.5" (from, to, step; the end is left out), or a list of both.
-/// @param text  decimal numbers from 0 to 9998, cut to three places
+/// @param text  decimal numbers from 0 to most_beats, cut to three places
 /// @return the moments in their order, every one once; nothing if the text is anything else, a range is empty or more
 /// than
 ///         10000 moments are asked for

@@ -52,7 +52,7 @@ bool plan_shots(RunningOrder const& order, RecordOptions const& options, std::ve
     int const after = options.frame_after ? 1 : 0;
     for (Millibeats const asked : options.beats) {
         Millibeats const at = scene->Begin() + asked;
-        if (!frame_is_before(frame_at(at) + after, scene->End())) {
+        if (at >= scene->End() || !frame_is_before(frame_at(at) + after, scene->End())) {
             complain("beat " + short_beat(asked) + " lies past the last frame of " + scene->name + ", which has " +
                      std::to_string(scene->length) + " beats");
             return false;

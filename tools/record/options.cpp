@@ -21,7 +21,8 @@ constexpr char const* help_text =
     --list           List the scenes, their first beats and lengths
     -h, --help       Show this help
 
-The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it.
+The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it
+on which the show has counted the beat.
 )";
 
 constexpr unsigned int largest_side = 8192; // pixels

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <SFML/Graphics/Image.hpp>
+#include <algorithm>
+#include <cstdlib>
+
+/// How different two pictures are: the number of pixels of which a channel differs by more than the tolerance; all
+/// pixels where the sizes differ.
+///
+/// Counted, never averaged: one software renderer draws the same pixels on every run, whatever its threads and vector
+/// width; another version of it flips a few pixels along edges, and flips them completely. An average cannot tell that
+/// from a whole thing that is a little too bright or a line that is gone; the count can. The tolerance only forgives
+/// the rounding of samples that are mixed.
+inline unsigned int differing_pixels(sf::Image const& a, sf::Image const& b, int tolerance = 16) {
+    sf::Vector2u const size = a.getSize();
+    if (size != b.getSize()) return std::max(size.x * size.y, b.getSize().x * b.getSize().y);
+    unsigned int count = 0;
+    for (unsigned int y = 0; y < size.y; ++y) {
+        for (unsigned int x = 0; x < size.x; ++x) {
+            sf::Color const p = a.getPixel(x, y);
+            sf::Color const q = b.getPixel(x, y);
+            int const most = std::max({std::abs(p.r - q.r), std::abs(p.g - q.g), std::abs(p.b - q.b)});
+            if (most > tolerance) ++count;
+        }
+    }
+    return count;
+}
+
+/// Share of black pixels, per cent.
+inline double black_share(sf::Image const& image) {
+    sf::Image black;
+    black.create(image.getSize().x, image.getSize().y, sf::Color::Black);
+    double const all = image.getSize().x * image.getSize().y;
+    return 100 * (all - differing_pixels(image, black)) / all;
+}

@@ -1,0 +1,87 @@
+#include "difference.h"
+#include "studio.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A moment of each scene that follows on something drawn: a change of scenes, a break, a flip, a flash.
+struct Window {
+    char const* scene;
+    Millibeats from; ///< every frame is drawn from here
+    Millibeats to;   ///< up to here, where the pictures are compared
+};
+
+constexpr Window windows[] = {
+    {"intro",    0,     13000},
+    {"gungirl",  0,     1500 },
+    {"gungirl",  15500, 17000},
+    {"swapper",  3500,  4600 },
+    {"credits",  0,     1300 },
+    {"wire",     0,     1000 },
+    {"wire",     51500, 52500},
+    {"plasma",   0,     700  },
+    {"fountain", 0,     1000 },
+    {"fountain", 36000, 37000},
+    {"greets",   0,     1500 },
+};
+
+std::string pixels(sf::Image const& image) {
+    auto const* const first = reinterpret_cast<char const*>(image.getPixelsPtr());
+    return {first, std::size_t{4} * image.getSize().x * image.getSize().y};
+}
+
+} // namespace
+
+TEST(Playback, LooksTheSameWhetherTheFramesBeforeWereDrawnOrNot) {
+    std::vector<sf::Image> wanted_only;
+    {
+        Studio studio;
+        ASSERT_TRUE(studio.Open()) << "there is nothing to draw with";
+        for (Window const& window : windows) {
+            wanted_only.push_back(studio.Picture(studio.FrameOf(window.scene, window.to)));
+        }
+    }
+    Studio studio;
+    ASSERT_TRUE(studio.Open());
+    for (std::size_t i = 0; i < std::size(windows); ++i) {
+        SCOPED_TRACE(testing::Message() << windows[i].scene << " " << windows[i].to);
+        while (studio.playback->NextFrame() < studio.FrameOf(windows[i].scene, windows[i].from))
+            studio.playback->Skip();
+        while (studio.playback->NextFrame() < studio.FrameOf(windows[i].scene, windows[i].to)) studio.playback->Draw();
+        sf::Image const picture = studio.Picture(studio.FrameOf(windows[i].scene, windows[i].to));
+        EXPECT_EQ(differing_pixels(picture, wanted_only[i], 0), 0u);
+        EXPECT_TRUE(pixels(picture) == pixels(wanted_only[i]));
+    }
+}
+
+TEST(Playback, CountsBeatsAndScenesAsTheShowDoes) {
+    Studio studio;
+    ASSERT_TRUE(studio.Open());
+    std::vector<int> firsts;
+    for (ScenePlace const& place : studio.order) firsts.push_back(place.first);
+    EXPECT_EQ(firsts, (std::vector<int>{0, 16, 64, 160, 184, 256, 288, 352}));
+    EXPECT_EQ(studio.order.back().End(), 384 * one_beat);
+
+    while (frame_is_before(studio.playback->NextFrame(), studio.order.back().End())) {
+        ASSERT_FALSE(studio.playback->GetDemo().GetFinished());
+        studio.playback->Skip();
+    }
+    EXPECT_EQ(studio.playback->State().beat_count, 383);
+    EXPECT_EQ(studio.playback->NextFrame(), 10473);
+    studio.playback->Skip();
+    EXPECT_TRUE(studio.playback->GetDemo().GetFinished());
+}
+
+TEST(Playback, ShowsAWordOnWhiteInTheIntro) {
+    Studio studio;
+    ASSERT_TRUE(studio.Open());
+    sf::Image const picture = studio.Picture(studio.FrameOf("intro", 500));
+    EXPECT_GT(black_share(picture), 2);
+    EXPECT_LT(black_share(picture), 30);
+    sf::Image negative;
+    negative.create(Studio::width, Studio::height, sf::Color::White);
+    EXPECT_GT(differing_pixels(picture, negative), 0u);
+    EXPECT_EQ(picture.getPixel(0, 0), sf::Color::White);
+    EXPECT_EQ(picture.getPixel(Studio::width - 1, Studio::height - 1), sf::Color::White);
+}

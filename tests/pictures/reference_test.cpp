@@ -1,0 +1,80 @@
+#include "difference.h"
+#include "references.h"
+#include "studio.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace {
+
+/// One pixel in a hundred.
+constexpr unsigned int most_differing = Studio::width * Studio::height / 100;
+
+/// Plays the show once for all tests and keeps the picture of each moment and of the frame after it.
+class ReferencePictures : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        Studio studio;
+        ready = studio.Open();
+        if (!ready) return;
+        for (Reference const& reference : references) {
+            int const frame = studio.FrameOf(reference.scene, reference.at);
+            drawn.push_back(studio.Picture(frame));
+            late.push_back(studio.Picture(frame + 1));
+        }
+    }
+
+    void SetUp() override { ASSERT_TRUE(ready) << "there is nothing to draw with"; }
+
+    static sf::Image Load(Reference const& reference) {
+        sf::Image image;
+        EXPECT_TRUE(image.loadFromFile(reference.Path())) << "is missing; the target update-pictures draws it";
+        return image;
+    }
+
+    static inline bool ready = false;
+    static inline std::vector<sf::Image> drawn;
+    static inline std::vector<sf::Image> late;
+};
+
+sf::Image shifted_by_one_pixel(sf::Image const& image) {
+    sf::Image shifted = image;
+    sf::Vector2u const size = image.getSize();
+    shifted.copy(image, 1, 0, sf::IntRect(0, 0, static_cast<int>(size.x) - 1, static_cast<int>(size.y)));
+    return shifted;
+}
+
+} // namespace
+
+TEST_F(ReferencePictures, AreWhatTheShowDraws) {
+    for (std::size_t i = 0; i < std::size(references); ++i) {
+        SCOPED_TRACE(references[i].Path());
+        EXPECT_LE(differing_pixels(Load(references[i]), drawn[i]), most_differing);
+    }
+}
+
+// The measure must be able to fail, or it guards nothing.
+TEST_F(ReferencePictures, AreNotWhatTheShowDrawsOneFrameLater) {
+    for (std::size_t i = 0; i < std::size(references); ++i) {
+        std::string const moment = references[i].scene + (" " + short_beat(references[i].at));
+        // Everything flies, flashes or flickers here.
+        if (moment != "intro 12.4" && moment != "gungirl 1.5" && moment != "swapper 4.1" && moment != "plasma 10")
+            continue;
+        SCOPED_TRACE(moment);
+        EXPECT_GT(differing_pixels(Load(references[i]), late[i]), most_differing);
+    }
+}
+
+TEST_F(ReferencePictures, AreNotMetByOneAnother) {
+    for (std::size_t i = 0; i + 1 < std::size(references); ++i) {
+        SCOPED_TRACE(references[i].Path());
+        EXPECT_GT(differing_pixels(Load(references[i]), drawn[i + 1]), most_differing);
+    }
+}
+
+TEST_F(ReferencePictures, OfThinLinesAreNotMetByTheSameOnePixelAside) {
+    std::size_t const broken_glass = 1;
+    ASSERT_EQ(references[broken_glass].Path(), "tests/pictures/reference/intro_012.400.png");
+    sf::Image const shifted = shifted_by_one_pixel(drawn[broken_glass]);
+    EXPECT_GT(differing_pixels(Load(references[broken_glass]), shifted), most_differing);
+}

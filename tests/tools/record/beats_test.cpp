@@ -1,0 +1,96 @@
+#include "tools/record/beats.h"
+
+#include "runtime/beatclock.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+constexpr int show_length = 384; // beats
+
+} // namespace
+
+TEST(Beats, AreReadAsAList) {
+    EXPECT_THAT(parse_beats("0.5").value(), ElementsAre(500));
+    EXPECT_THAT(parse_beats("0.5,3.25,6,12.4").value(), ElementsAre(500, 3250, 6000, 12400));
+    EXPECT_THAT(parse_beats("7,.5,0").value(), ElementsAre(7000, 500, 0)) << "in the order asked for";
+}
+
+TEST(Beats, AreReadAsRangesThatLeaveTheEndOut) {
+    EXPECT_THAT(parse_beats("0:2:0.5").value(), ElementsAre(0, 500, 1000, 1500));
+    EXPECT_THAT(parse_beats("1:2:0.4,9").value(), ElementsAre(1000, 1400, 1800, 9000));
+}
+
+TEST(Beats, AreTakenOnceOnly) { EXPECT_THAT(parse_beats("1,2,1.0,0:3:1").value(), ElementsAre(1000, 2000, 0)); }
+
+TEST(Beats, AreCutToThreePlacesWithoutLosingAnyToBinaryFractions) {
+    EXPECT_THAT(parse_beats("1.9999").value(), ElementsAre(1999));
+    for (Millibeats at = 0; at < show_length * one_beat; ++at) {
+        ASSERT_THAT(parse_beats(padded_beat(at)).value(), ElementsAre(at));
+    }
+}
+
+TEST(Beats, RefuseEverythingElse) {
+    char const* const cases[] = {"",     ",",         "1,",          ",1",    "x",     "1;2",
+                                 "-1",   "1.2.3",     ".",           "1e3",   "1 ",    "nan",
+                                 "0:1",  "0:1:0.5:2", "0:1:0",       "2:1:1", "1:1:1", "0::1",
+                                 ":1:1", "0:x:1",     "0:999:0.001", "1000",  "0x10",  "99999999999999999999"};
+    for (char const* const text : cases) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(parse_beats(text).has_value());
+    }
+}
+
+TEST(Beats, AreWrittenForFilesAndForPeople) {
+    std::tuple<Millibeats, char const*, char const*> const cases[] = {
+        {0,      "000.000", "0"      },
+        {500,    "000.500", "0.5"    },
+        {12400,  "012.400", "12.4"   },
+        {12050,  "012.050", "12.05"  },
+        {383999, "383.999", "383.999"},
+        {100000, "100.000", "100"    },
+    };
+    for (auto const& [at, padded, brief] : cases) {
+        EXPECT_EQ(padded_beat(at), padded);
+        EXPECT_EQ(short_beat(at), brief);
+    }
+}
+
+TEST(Beats, AreShownByTheFirstFrameAtOrAfterThem) {
+    EXPECT_EQ(frame_at(0), 0);
+    EXPECT_EQ(frame_at(1000), 28) << "27.27 frames";
+    EXPECT_EQ(frame_at(11000), 300) << "on the very frame";
+    for (Millibeats at = 1; at < show_length * one_beat; ++at) {
+        int const frame = frame_at(at);
+        ASSERT_FALSE(frame_is_before(frame, at)) << at;
+        ASSERT_TRUE(frame_is_before(frame - 1, at)) << at;
+        double const seconds = at / 1000.0 * 60 / beats_per_minute;
+        double const late = frame - seconds * recorded_rate;
+        bool const on_a_frame = at % (11 * one_beat) == 0;
+        ASSERT_GE(late, -1e-6) << at;
+        ASSERT_LT(late, on_a_frame ? 1 + 1e-6 : 1 - 1e-6) << at;
+    }
+}
+
+TEST(Beats, WaitForTheClockWhereItIsAFrameLate) {
+    EXPECT_EQ(frame_at(44000), 1200);
+    EXPECT_EQ(frame_at(55000), 1501);
+    EXPECT_TRUE(frame_is_before(1500, 55000));
+    EXPECT_EQ(frame_at(54999), 1500);
+    EXPECT_EQ(frame_at(55001), 1501);
+}
+
+TEST(Beats, AreCountedByTheShowsOwnClockOnThatFrame) {
+    BeatClock clock(beat2seconds(beats_per_minute, 4));
+    kore::StateData state;
+    for (int frame = 0; frame <= frame_at(show_length * one_beat); ++frame) {
+        state.time = static_cast<float>(frame) / static_cast<float>(recorded_rate);
+        clock.Count(state);
+        int const next = (state.beat_count + 1) * one_beat;
+        ASSERT_GE(frame, frame_at(state.beat_count * one_beat)) << "counted too early";
+        ASSERT_LT(frame, frame_at(next)) << "counted too late";
+    }
+    EXPECT_EQ(state.beat_count, show_length);
+}

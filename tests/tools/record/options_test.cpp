@@ -1,0 +1,120 @@
+#include "tools/record/options.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+struct Outcome {
+    RecordOptions options;
+    std::optional<int> status;
+    std::string out;
+    std::string error;
+};
+
+Outcome read(std::vector<char const*> const& arguments) {
+    constexpr std::size_t most = 20;
+    char const* argv[most] = {"hardsilence-record"};
+    std::copy(arguments.begin(), arguments.end(), argv + 1);
+    Outcome outcome;
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    outcome.status = read_command_line(static_cast<int>(arguments.size()) + 1, argv, outcome.options);
+    outcome.out = testing::internal::GetCapturedStdout();
+    outcome.error = testing::internal::GetCapturedStderr();
+    return outcome;
+}
+
+} // namespace
+
+TEST(RecordOptions, HaveDefaults) {
+    Outcome const outcome = read({"--beats", "1", "--out", "pictures"});
+    EXPECT_FALSE(outcome.status.has_value());
+    EXPECT_EQ(outcome.out + outcome.error, "");
+    RecordOptions const& options = outcome.options;
+    EXPECT_THAT(options.beats, ElementsAre(1000));
+    EXPECT_EQ(options.folder, "pictures");
+    EXPECT_EQ(options.width, 1024u);
+    EXPECT_EQ(options.height, 768u);
+    EXPECT_EQ(options.samples, 4u);
+    EXPECT_EQ(options.columns, 5u);
+    EXPECT_EQ(options.sheet + options.scene, "");
+    EXPECT_TRUE(options.wire);
+    EXPECT_FALSE(options.frame_after || options.list);
+}
+
+TEST(RecordOptions, AreAllRead) {
+    Outcome const outcome = read({"--beats", "1,2", "--sheet", "s.png", "--scene", "wire", "--size", "64x48",
+                                  "--samples", "0", "--columns", "3", "--no-wire", "--frames"});
+    EXPECT_FALSE(outcome.status.has_value());
+    RecordOptions const& options = outcome.options;
+    EXPECT_THAT(options.beats, ElementsAre(1000, 2000));
+    EXPECT_EQ(options.sheet, "s.png");
+    EXPECT_EQ(options.scene, "wire");
+    EXPECT_EQ(options.width, 64u);
+    EXPECT_EQ(options.height, 48u);
+    EXPECT_EQ(options.samples, 0u);
+    EXPECT_EQ(options.columns, 3u);
+    EXPECT_FALSE(options.wire);
+    EXPECT_TRUE(options.frame_after);
+    EXPECT_TRUE(read({"--no-wire", "--wire", "--list"}).options.wire) << "the later one holds";
+}
+
+TEST(RecordOptions, ListNeedsNothingElse) {
+    Outcome const outcome = read({"--list"});
+    EXPECT_FALSE(outcome.status.has_value());
+    EXPECT_TRUE(outcome.options.list);
+}
+
+TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
+    std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5";
+    std::string const no_size = " is not a size such as 1024x768, up to 8192x8192";
+    std::pair<std::vector<char const*>, std::string> const cases[] = {
+        {{},                          "no beats to record, see --beats"                     },
+        {{"--out", "x"},              "no beats to record, see --beats"                     },
+        {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"          },
+        {{"--fast"},                  "unknown option '--fast', see --help"                 },
+        {{"12.4"},                    "unknown option '12.4', see --help"                   },
+        {{"--beats"},                 "--beats requires a value"                            },
+        {{"--beats", "1", "--out"},   "--out requires a value"                              },
+        {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats                          },
+        {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats                         },
+        {{"--out", ""},               "--out: '' is not a path"                             },
+        {{"--sheet", ""},             "--sheet: '' is not a path"                           },
+        {{"--scene", ""},             "--scene: '' is not a scene's name; --list shows them"},
+        {{"--size", "1024"},          "--size: '1024'" + no_size                            },
+        {{"--size", "1024x"},         "--size: '1024x'" + no_size                           },
+        {{"--size", "x768"},          "--size: 'x768'" + no_size                            },
+        {{"--size", "0x768"},         "--size: '0x768'" + no_size                           },
+        {{"--size", "8193x1"},        "--size: '8193x1'" + no_size                          },
+        {{"--size", "4x3x2"},         "--size: '4x3x2'" + no_size                           },
+        {{"--size", "-4x3"},          "--size: '-4x3'" + no_size                            },
+        {{"--size", "99999999999x1"}, "--size: '99999999999x1'" + no_size                   },
+        {{"--samples", "65"},         "--samples: '65' is not a number from 0 to 64"        },
+        {{"--samples", "four"},       "--samples: 'four' is not a number from 0 to 64"      },
+        {{"--columns", "0"},          "--columns: '0' is not a number from 1 to 100"        },
+        {{"--columns", "101"},        "--columns: '101' is not a number from 1 to 100"      },
+    };
+    for (auto const& [arguments, line] : cases) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        Outcome const outcome = read(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
+        EXPECT_EQ(outcome.out, "");
+    }
+}
+
+TEST(RecordOptions, HelpNamesEveryOption) {
+    for (char const* const option : {"-h", "--help"}) {
+        Outcome const outcome = read({option, "--nonsense"});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.error, "");
+        for (char const* const name : {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frames",
+                                       "--size WxH", "--samples N", "--columns N", "--wire", "--no-wire", "--list"}) {
+            EXPECT_THAT(outcome.out, HasSubstr(std::string("\n    ") + name));
+        }
+    }
+}

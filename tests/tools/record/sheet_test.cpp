@@ -1,0 +1,128 @@
+#include "tools/record/sheet.h"
+
+#include "tools/record/pixelfont.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace {
+
+sf::Color const grey(128, 128, 128);
+
+sf::Image plain(unsigned int width, unsigned int height, sf::Color color) {
+    sf::Image image;
+    image.create(width, height, color);
+    return image;
+}
+
+// The picture as rows of '#' for black and '.' for the rest.
+std::vector<std::string> dots(sf::Image const& image) {
+    std::vector<std::string> rows;
+    for (unsigned int y = 0; y < image.getSize().y; ++y) {
+        std::string& row = rows.emplace_back();
+        for (unsigned int x = 0; x < image.getSize().x; ++x) {
+            row += image.getPixel(x, y) == sf::Color::Black ? '#' : '.';
+        }
+    }
+    return rows;
+}
+
+int black_pixels(sf::Image const& image) {
+    int count = 0;
+    for (std::string const& row : dots(image)) count += static_cast<int>(std::count(row.begin(), row.end(), '#'));
+    return count;
+}
+
+} // namespace
+
+TEST(PixelFont, DrawsItsGlyphs) {
+    sf::Image image = plain(12, 7, sf::Color::White);
+    write_text(image, 0, 0, 1, "l4");
+    std::vector<std::string> const expected = {
+        "#........#..", //
+        "#.......##..", //
+        "#......#.#..", //
+        "#.....#..#..", //
+        "#.....#####.", //
+        "#........#..", //
+        "#####....#..", //
+    };
+    EXPECT_EQ(dots(image), expected);
+}
+
+TEST(PixelFont, EveryGlyphDiffersFromTheOthers) {
+    std::string const all = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789. ";
+    std::vector<std::vector<std::string>> seen;
+    for (char const c : all) {
+        sf::Image image = plain(5, 7, sf::Color::White);
+        write_text(image, 0, 0, 1, std::string(1, c));
+        seen.push_back(dots(image));
+    }
+    for (std::size_t a = 0; a < seen.size(); ++a) {
+        for (std::size_t b = 0; b < a; ++b) EXPECT_NE(seen[a], seen[b]) << all[a] << " and " << all[b];
+    }
+}
+
+TEST(PixelFont, GrowsWithTheDotAndIsCutOffAtTheEdge) {
+    sf::Image small = plain(5, 7, sf::Color::White);
+    write_text(small, 0, 0, 1, "B");
+    sf::Image large = plain(10, 14, sf::Color::White);
+    write_text(large, 0, 0, 2, "b");
+    EXPECT_EQ(black_pixels(large), 4 * black_pixels(small));
+    sf::Image cut = plain(5, 7, sf::Color::White);
+    write_text(cut, 3, 4, 1, "BBBB");
+    EXPECT_GT(black_pixels(cut), 0);
+    EXPECT_LT(black_pixels(cut), black_pixels(small));
+    EXPECT_EQ(text_width("AB"), 11u);
+    EXPECT_EQ(text_width(""), 0u);
+}
+
+TEST(Sheet, PicturesUpToTheWidestCellStayAsTheyAre) {
+    sf::Image picture = plain(widest_cell, 3, sf::Color::White);
+    picture.setPixel(7, 1, sf::Color::Black);
+    sf::Image const cell = shrink_for_sheet(picture);
+    EXPECT_EQ(cell.getSize(), picture.getSize());
+    EXPECT_EQ(dots(cell), dots(picture));
+}
+
+TEST(Sheet, LargerPicturesAreAveragedOverBlocks) {
+    sf::Image picture = plain(2 * widest_cell, 5, sf::Color::White);
+    picture.setPixel(0, 0, sf::Color::Black);
+    picture.setPixel(2, 2, sf::Color::Black);
+    picture.setPixel(3, 3, sf::Color::Black);
+    sf::Image const cell = shrink_for_sheet(picture);
+    EXPECT_EQ(cell.getSize(), sf::Vector2u(widest_cell, 2)) << "the odd row is dropped";
+    EXPECT_EQ(cell.getPixel(0, 0), sf::Color(191, 191, 191)) << "one pixel of four is black";
+    EXPECT_EQ(cell.getPixel(1, 1), grey);
+    EXPECT_EQ(cell.getPixel(2, 0), sf::Color::White);
+    EXPECT_EQ(shrink_for_sheet(plain(1024, 768, sf::Color::White)).getSize(), sf::Vector2u(256, 192));
+}
+
+TEST(Sheet, LaysPicturesOutInRowsWithTheirLabels) {
+    sf::Color const colors[] = {sf::Color::Red, sf::Color::Green, sf::Color::Blue};
+    std::vector<SheetCell> cells;
+    for (sf::Color const& color : colors) cells.push_back({plain(40, 30, color), "x"});
+    sf::Image const sheet = make_sheet(cells, 2);
+    EXPECT_EQ(sheet.getSize(), sf::Vector2u(2 * 44 + 4, 2 * 52 + 4));
+    EXPECT_EQ(sheet.getPixel(4, 4), colors[0]);
+    EXPECT_EQ(sheet.getPixel(43, 33), colors[0]);
+    EXPECT_EQ(sheet.getPixel(44, 4), grey);
+    EXPECT_EQ(sheet.getPixel(48, 4), colors[1]);
+    EXPECT_EQ(sheet.getPixel(4, 56), colors[2]);
+    EXPECT_EQ(sheet.getPixel(48, 56), grey) << "nothing there";
+
+    std::vector<SheetCell> unlabelled = cells;
+    for (SheetCell& cell : unlabelled) cell.label.clear();
+    EXPECT_EQ(black_pixels(make_sheet(unlabelled, 2)), 0);
+    sf::Image letter = plain(5, 7, sf::Color::White);
+    write_text(letter, 0, 0, 1, "x");
+    EXPECT_EQ(black_pixels(sheet), 3 * 4 * black_pixels(letter)) << "three labels, two pixels a dot";
+}
+
+TEST(Sheet, IsNoWiderThanItsPictures) {
+    std::vector<SheetCell> const cells = {
+        {plain(40, 30, sf::Color::Red), ""}
+    };
+    EXPECT_EQ(make_sheet(cells, 100).getSize().x, 48u);
+}
