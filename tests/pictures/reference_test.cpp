@@ -7,8 +7,8 @@
 
 namespace {
 
-/// One pixel in a hundred.
-constexpr unsigned int most_differing = Studio::width * Studio::height / 100;
+/// One pixel in five hundred. Processors of other generations were seen to flip two.
+constexpr unsigned int most_differing = Studio::width * Studio::height / 500;
 
 /// Plays the show once for all tests and keeps the picture of each moment and of the frame after it.
 class ReferencePictures : public testing::Test {
@@ -54,13 +54,10 @@ TEST_F(ReferencePictures, AreWhatTheShowDraws) {
 }
 
 // The measure must be able to fail, or it guards nothing.
-TEST_F(ReferencePictures, AreNotWhatTheShowDrawsOneFrameLater) {
+TEST_F(ReferencePictures, OfHastyMomentsAreNotMetOneFrameLater) {
     for (std::size_t i = 0; i < std::size(references); ++i) {
-        std::string const moment = references[i].scene + (" " + short_beat(references[i].at));
-        // Everything flies, flashes or flickers here.
-        if (moment != "intro 12.4" && moment != "gungirl 1.5" && moment != "swapper 4.1" && moment != "plasma 10")
-            continue;
-        SCOPED_TRACE(moment);
+        if (!references[i].hasty) continue;
+        SCOPED_TRACE(references[i].Path());
         EXPECT_GT(differing_pixels(Load(references[i]), late[i]), most_differing);
     }
 }

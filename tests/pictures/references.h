@@ -9,6 +9,7 @@
 struct Reference {
     char const* scene;
     Millibeats at; ///< from the scene's first beat
+    bool hasty;    ///< flies, flashes or flickers, so that one frame later all is different
 
     /// Relative to the source folder.
     std::string Path() const {
@@ -17,20 +18,20 @@ struct Reference {
 };
 
 constexpr Reference references[] = {
-    {"intro",    500  }, // a word stands
-    {"intro",    12400}, // the glass breaks
-    {"gungirl",  1500 }, // closing in
-    {"gungirl",  10500}, // the portrait
-    {"swapper",  4100 }, // whole, in the flash
-    {"swapper",  77000}, // debris
-    {"credits",  5500 }, // a dancer
-    {"credits",  8200 }, // the type, in the flicker
-    {"wire",     500  }, // the tunnel
-    {"wire",     52000}, // in the flash
-    {"plasma",   0    }, // white type
-    {"plasma",   10000}, // black type
-    {"fountain", 20000}, // the jewel
-    {"fountain", 37000}, // inside
-    {"greets",   1500 }, // the first name
-    {"greets",   16500}, // a later one
+    {"intro",    500,   false}, // a word stands
+    {"intro",    12400, true }, // the glass breaks
+    {"gungirl",  1500,  true }, // closing in
+    {"gungirl",  10500, false}, // the portrait
+    {"swapper",  4100,  true }, // whole, in the flash
+    {"swapper",  77000, false}, // debris
+    {"credits",  5500,  false}, // a dancer
+    {"credits",  8200,  false}, // the type, in the flicker
+    {"wire",     500,   false}, // the tunnel
+    {"wire",     52000, false}, // in the flash
+    {"plasma",   0,     false}, // white type
+    {"plasma",   10000, true }, // black type
+    {"fountain", 20000, false}, // the jewel
+    {"fountain", 37000, false}, // inside
+    {"greets",   1500,  false}, // the first name
+    {"greets",   16500, false}, // a later one
 };
