@@ -1,9 +1,10 @@
 ; Hits that the picture makes, and what leads up to them.
 
-; Impact: a boom that falls to the tonic, a wall of noise, a big room. tone: how bright the wall is.
+; Impact: a boom that falls to the root p5 (0: g1), a wall of noise, a big room. tone: how bright the wall is.
 instr Impact
   p3 = max(p3, 1.6)
-  afall expseg 140, 0.09, 62, 0.6, 36, 10, 30
+  iroot = cpsmidinn(p5 == 0 ? 31 : p5)
+  afall expseg 150, 0.09, iroot * 1.25, 0.35, iroot, 10, iroot
   aboom oscili 1, afall, -1, 0.05
   aboomenv expseg 1, 0.25, 0.7, p3 - 0.27, 0.004, 0.02, 0.0005
   aboom = tanh(aboom * aboomenv * 2.2) * 0.62

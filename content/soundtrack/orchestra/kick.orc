@@ -1,5 +1,5 @@
-; Kick: falls from 180 to 48 Hz within a tenth of a second, behind a click. tone: drive, 0 round to 1 broken.
-; p5 moves its landing to another note (0: 48 Hz): higher is drier and shorter.
+; Kick: falls from 180 to 49 Hz, the tonic, within a tenth of a second, behind a click. tone: drive, 0 round to 1 broken.
+; p5 moves its landing to another note (0: g1): higher is drier and shorter.
 instr Kick
   p3 = 0.42
   idrive = 1.5 + 4 * p6
@@ -7,9 +7,9 @@ instr Kick
 
   ; Body
   afall expseg 1, 0.1, 0.03, 0.32, 0.0005
-  ilanding = (p5 == 0) ? 48 : cpsmidinn(p5)
-  ilong = 48 / ilanding
-  acps = ilanding + 132 * afall
+  ilanding = cpsmidinn(p5 == 0 ? 31 : p5)
+  ilong = 49 / ilanding
+  acps = ilanding + 131 * afall
   abody oscili 1, acps, -1, 0.02
   apush linseg 0.9, 0.004, 1, 0.07, 0.9, 0.15, 0.3, 0.18, 0.1
   aend linseg 1, 0.1 * ilong, 0.9, 0.14 * ilong, 0.3, 0.12 * ilong, 0.03, 0.05, 0

@@ -30,7 +30,7 @@ instr Fountain
   iround = 0
   while iround < 64 do
     at iround, "Crash", 5, 0.8
-    at iround, "Impact", 2, 0.8, 0, 0.6
+    at iround, "Impact", 2, 0.8, iround < 48 ? 31 : 33, 0.6
     at iround + 8, "Crash", 3, 0.5
     hits iround + 7, iround + 8, "Clap", "..xx", 0.7
     if iround < 48 then

@@ -37,7 +37,7 @@ instr Greets
 
   ; A last half beat of nothing, and home
   hush 31.5, 32
-  at 32, "Bell", 4, 0.85, 67, 0.2
-  at 32, "Bell", 4, 0.5, 55, 0.1
-  at 32, "Impact", 4, 0.4, 0, 0.1
+  at 32, "Bell", 4, 1.05, 67, 0.3
+  at 32, "Bell", 4, 0.6, 55, 0.1
+  at 32, "Impact", 4, 0.55, 0, 0.15
 endin

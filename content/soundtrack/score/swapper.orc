@@ -96,12 +96,13 @@ instr Swapper
   shape 64, "X... X... X... X...", "X... X... X... X...", ".... X... .... X...", 0.6
   hits 67, 68, "Kick", "XxXx", 0.9, 0, 0.6
   play 64, 80, "Bass", gSSwapBass5, 1, 0, 0.95
-  hits 64, 80, "Rumble", "..xx ..xx ..xx ..xx", 0.5, 31, 0.4
-  hits 68, 80, "Hat", "..Xo ..Xo ..Xo ..Xo", 0.7
+  hits 64, 80, "Rumble", "..xx ..xx ..xx ..xx", 0.4, 31, 0.4
+  hits 68, 80, "Hat", "o.Xo o.Xo o.Xo oxXr", 0.7
   hits 68, 80, "Ride", "..X. ..X. ..X. ..X.", 0.7
-  play 64, 80, "Lead", gSTheme, 0.8, -24, 0.9
-  play 64, 80, "Growl", ". . . . g1! - - . . . . . ab1! - f#1 - | . . . . g1! - - . bb1 - ab1 - g1! - f#1 -", 0.8, 0, 0.4
-  play 72, 80, "Stab", "g2 . . g2 . . ab2 . . . f#2 . . . f#2 .", 0.6, 0, 0.8
+  play 64, 80, "Lead", gSTheme, 1, -24, 1
+  play 64, 80, "Lead", gSTheme, 0.7, -12, 0.8
+  play 64, 80, "Growl", ". . . . g1! - - . . . . . ab1! - f#1 - | . . . . g1! - - . bb1 - ab1 - g1! - f#1 -", 1.15, 0, 0.5
+  play 68, 80, "Stab", "g2 . . g2 . . ab2 . . . f#2 . . . f#2 .", 0.8, 0, 0.8
   hits 78, 80, "Tom", "x..x ..x.", 0.9, 36, 0.3
   hits 79, 80, "Snare", "xrxr", 0.7, 0, 0.2
 

@@ -29,7 +29,7 @@ instr Tunnel
     play ifrom, ito, "Anvil", "g4! . . . d4 . . . g4! . . . bb4 . . .", 0.75, irise, 0.5
     hits ifrom, ito, "Rumble", "..xx ..xx ..xx .xxx", 0.6 + 0.08 * istage, 31 + irise, 0.15 * istage
     if istage > 0 then
-      at ifrom, "Impact", 2, 0.8, 0, 0.6
+      at ifrom, "Impact", 2, 0.8, 31 + irise, 0.6
       at ifrom, "Crash", 4, 0.7
       at ifrom - 4, "Riser", 4, 0.6, 67 + irise, 0.5
       hits ifrom - 1, ifrom, "Snare", "xxrr", 0.8, 0, 0.2 * istage
