@@ -86,9 +86,9 @@ FOR_EACH_PROCESSOR void first_stages(float* re, float* im, float const* cosine, 
 }
 
 /// Two stages in one pass over the memory: the one of this half, at least eight, and the next.
-FOR_EACH_PROCESSOR void two_stages(float* re, float* im, float const* cosine, float const* sine, unsigned int half) {
-    for (unsigned int block = 0; block < FftVisualizer::points; block += 4 * half) {
-        for (unsigned int j = block; j < block + half; j += lanes) {
+FOR_EACH_PROCESSOR void two_stages(float* re, float* im, float const* cosine, float const* sine, std::size_t half) {
+    for (std::size_t block = 0; block < FftVisualizer::points; block += 4 * half) {
+        for (std::size_t j = block; j < block + half; j += lanes) {
             Values v0;
             Values v1;
             Values v2;
@@ -97,8 +97,8 @@ FOR_EACH_PROCESSOR void two_stages(float* re, float* im, float const* cosine, fl
             load(v1, re + j + half, im + j + half);
             load(v2, re + j + 2 * half, im + j + 2 * half);
             load(v3, re + j + 3 * half, im + j + 3 * half);
-            unsigned int const first = half + (j - block);
-            unsigned int const second = 2 * half + (j - block);
+            std::size_t const first = half + (j - block);
+            std::size_t const second = 2 * half + (j - block);
             Values factor;
             load(factor, cosine + first, sine + first);
             butterflies(v0, v1, factor);
@@ -165,7 +165,7 @@ void FftVisualizer::Prepare(char const* data) {
 
 void FftVisualizer::Calculate() {
     first_stages(re, im, stage_cosine, stage_sine);
-    for (unsigned int half = lanes; half < points; half *= 4) two_stages(re, im, stage_cosine, stage_sine, half);
+    for (std::size_t half = lanes; half < points; half *= 4) two_stages(re, im, stage_cosine, stage_sine, half);
 }
 
 void FftVisualizer::Output() {

@@ -19,7 +19,7 @@ unsigned int compile_tile() {
 
 } // namespace
 
-FlashBackground::FlashBackground() : myTile(compile_tile()), myBlocks(tiles * tiles, Block(1.0f)) {}
+FlashBackground::FlashBackground() : myTile(compile_tile()), myBlocks(std::size_t{tiles} * tiles, Block(1.0f)) {}
 
 void FlashBackground::Draw() {
     kore::Vector3<float> const& pos = GetPos();

@@ -47,14 +47,15 @@ void PlasmaTexture::UpdatePalette(double t) {
 void PlasmaTexture::RenderTexture(unsigned int t) {
     int const hw = width / 2;
     int const hh = height / 2;
-    double const a = t / 16;
+    unsigned int const sixteenth = t / 16;
+    double const a = sixteenth;
     int const x1 = window_start(std::sin(a / 128), hw);
     int const x2 = window_start(std::cos(a / -74), hw);
     int const y1 = window_start(std::cos(a / -113), hh);
     int const y2 = window_start(std::sin(a / 33), hh);
-    auto o1 = static_cast<std::size_t>(width * y1 * 2 + x1);
-    auto o2 = static_cast<std::size_t>(width * y2 * 2 + x2);
     auto const row = static_cast<std::size_t>(width);
+    std::size_t o1 = row * static_cast<std::size_t>(y1) * 2 + static_cast<std::size_t>(x1);
+    std::size_t o2 = row * static_cast<std::size_t>(y2) * 2 + static_cast<std::size_t>(x2);
 
     UpdatePalette(t);
     unsigned char* pixel = pixels.get();

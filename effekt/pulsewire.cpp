@@ -12,7 +12,7 @@ namespace {
 
 bool is_set(char const* variable) {
     char const* const value = std::getenv(variable);
-    return value && std::string_view(value) != "" && std::string_view(value) != "0";
+    return value && *value != 0 && std::string_view(value) != "0";
 }
 
 /// Parameter of the spline at sample i.
