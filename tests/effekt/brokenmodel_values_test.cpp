@@ -21,8 +21,8 @@ namespace {
 TEST_F(BrokenModel, ScattersByTheSequenceOfItsSeed) {
     // 3 s of the formula, written out: s(f) = (r mod 200 f) / 100 - f, six numbers a triangle.
     std::srand(seed);
-    std::vector<int> r;
-    for (int i = 0; i < 12; ++i) r.push_back(std::rand());
+    int r[12];
+    for (int& drawn : r) drawn = std::rand();
     model->Blink(Type::Break, 1);
     model->UpdateLogic(state_at(0));
     model->UpdateLogic(state_at(3));

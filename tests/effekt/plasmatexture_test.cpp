@@ -12,7 +12,7 @@ using effect_test::plasma;
 namespace {
 
 std::vector<unsigned char> pixels(effect::PlasmaTexture const& texture) {
-    return {texture.GetPixels(), texture.GetPixels() + texture.GetWidth() * texture.GetHeight()};
+    return {texture.GetPixels(), texture.GetPixels() + std::ptrdiff_t{texture.GetWidth()} * texture.GetHeight()};
 }
 
 TEST(PlasmaTexture, RoundsItsSidesLikeEveryTexture) {

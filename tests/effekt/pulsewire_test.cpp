@@ -153,7 +153,7 @@ TEST_F(PulseWire, ThreadsTheToriOnTheSplineLeavingOutItsEnd) {
     Draw(*wire);
     for (int i = 1; i < tori; ++i) {
         kore::Vector3<float> const p = spline->GetSplinePoint(static_cast<float>(i) / 99);
-        gl::Matrix const& at = gl::draws()[static_cast<std::size_t>(2 * i)].model_view;
+        gl::Matrix const& at = gl::draws()[2 * static_cast<std::size_t>(i)].model_view;
         ASSERT_NEAR(at[12], p.x, 1e-4) << i;
         ASSERT_NEAR(at[13], p.y, 1e-4) << i;
         ASSERT_NEAR(at[14], p.z, 1e-4) << i;
@@ -175,7 +175,7 @@ TEST_F(PulseWire, StandsInOnePlaceOnASplineOfOnePoint) {
     spline->AddSplinePoint({4, 5, 6});
     auto const wire = Wire("1");
     Draw(*wire);
-    for (std::size_t i = 2; i < 2u * tori; ++i) {
+    for (std::size_t i = 2; i < std::size_t{2} * tori; ++i) {
         auto const place = gl::transform(gl::draws()[i].model_view, 0, 0, 0);
         ASSERT_NEAR(place[0], 4, 1e-5) << i;
         ASSERT_NEAR(place[1], 5, 1e-5) << i;

@@ -54,7 +54,8 @@ TEST_F(Texture, RoundsItsSidesToOneOfThreeSizes) {
 TEST_F(Texture, IsBlackWheneverItIsMade) {
     for (int round = 0; round < 2; ++round) {
         texture.Init(64, 64);
-        EXPECT_TRUE(std::all_of(texture.GetPixels(), texture.GetPixels() + 64 * 64, [](int p) { return p == 0; }));
+        EXPECT_TRUE(std::all_of(texture.GetPixels(), texture.GetPixels() + std::ptrdiff_t{64} * 64,
+                                [](int p) { return p == 0; }));
         texture.Fill(9);
     }
 }

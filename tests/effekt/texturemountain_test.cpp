@@ -9,7 +9,7 @@ namespace {
 
 using Type = kore::BlinkerInterface::BlinkerType;
 
-constexpr std::size_t cells = 63 * 63;
+constexpr std::size_t cells = std::size_t{63} * 63;
 constexpr std::size_t calls_of_a_cell = 22; // two colours, four primitives of five
 
 class TextureMountain : public effect_test::EffectTest {
