@@ -60,6 +60,9 @@ instr GunGirl
   hits 8, 24, "Tick", "x.o. ..x. .o.. x.o.", 0.5, 93, 0.15
   hits 24, 47, "Hat", ".o.. .o.. .o.. .o..", 0.4, 0, 1
   hits 22, 24, "Tom", "..x. x.xx", 0.7, 43, 0.3
+  hits 24, 32, "Tom", ".... ...o ..x. .... | .... ...o ..x. .o..", 0.7, 45, 0.8
+  hits 24, 47, "Snare", ".... ...o .... .... | .... ...o .... .o.o", 0.5, 0, 0.3
+  at 28, "Zap", 0.2, 0.6, 55, 1
 
   ; Turn: the theme's first half, low
   at 32, "Impact", 2, 0.6, 0, 0.4
