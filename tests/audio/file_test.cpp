@@ -17,7 +17,7 @@ std::string read_file(std::string const& path) {
 }
 
 /// The tags of a Vorbis stream, "NAME=value" each; empty when there is no readable comment header.
-/// (Vorbis I specification, section 5.2: vendor string, count, then strings, each after its 32-bit length.)
+/// (Vorbis I, section 5.2: vendor string, count, then strings, each after its 32-bit length.)
 std::vector<std::string> tags(std::string const& bytes) {
     std::vector<std::string> found;
     std::size_t at = bytes.find("\x03vorbis");
@@ -29,7 +29,8 @@ std::vector<std::string> tags(std::string const& bytes) {
             value |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[at])) << (8 * i);
         return value;
     };
-    at += number();
+    std::uint32_t const vendor = number();
+    at += vendor;
     for (std::uint32_t left = number(); left > 0 && at < bytes.size(); --left) {
         std::uint32_t const length = number();
         if (length > bytes.size() - at) break;

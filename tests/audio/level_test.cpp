@@ -48,6 +48,7 @@ TEST(SoundtrackLevel, CarriesNoDirectCurrent) {
 
 TEST(SoundtrackLevel, BassIsMono) {
     std::size_t const end = recording().Count();
+    ASSERT_GT(end, 0u);
     double const middle = measure::level_db(measure::band(recording().Middle(), 0, 90), 0, end);
     double const side = measure::level_db(measure::band(recording().Side(), 0, 90), 0, end);
     EXPECT_LT(side, middle - 20);
@@ -55,6 +56,7 @@ TEST(SoundtrackLevel, BassIsMono) {
 
 TEST(SoundtrackLevel, TrebleIsWide) {
     std::size_t const end = recording().Count();
+    ASSERT_GT(end, 0u);
     double const middle = measure::level_db(measure::band(recording().Middle(), 1000, 0), 0, end);
     double const side = measure::level_db(measure::band(recording().Side(), 1000, 0), 0, end);
     EXPECT_GT(side, middle - 12);

@@ -1,4 +1,5 @@
-; Kick: falls from 180 to 49 Hz, the tonic, within a tenth of a second, behind a click. tone: drive, 0 round to 1 broken.
+; Kick: falls from 180 to 49 Hz, the tonic, within a tenth of a second, behind a click.
+; tone: drive, 0 round to 1 broken.
 ; p5 moves its landing to another note (0: g1): higher is drier and shorter.
 instr Kick
   p3 = 0.42

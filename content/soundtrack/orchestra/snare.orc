@@ -3,7 +3,8 @@
 ; Clap: four hands in 27 ms, the first exactly on the beat, then a short room.
 instr Clap
   p3 = 0.26
-  ahands linseg 1, 0.008, 0.12, 0.0005, 0.9, 0.008, 0.12, 0.0005, 0.85, 0.009, 0.15, 0.0005, 1, 0.03, 0.42, 0.14, 0.04, 0.05, 0
+  ahands linseg 1, 0.008, 0.12, 0.0005, 0.9, 0.008, 0.12, 0.0005, 0.85, 0.009, 0.15, 0.0005, 1, 0.03, 0.42, \
+    0.14, 0.04, 0.05, 0
   aleft hiss
   aright hiss
   acentre hiss

@@ -36,7 +36,7 @@ instr Accent
   anoise butterhp anoise, 4200
   agrain expseg 1, 0.05, 0.02, 1, 0.01
   aenv linseg 1, 0.06, 0.6, 0.2, 0.1, 0.04, 0
-  aout butterhp tanh(asaw * 1.5) * 0.4 * aenv + anoise * agrain * 0.75, 180
+  aout butterhp tanh(asaw * 1.5) * 0.4 * aenv + anoise * agrain * 0.9, 180
   aleft, aright place aout * 1.25 * p4, (p6 - 0.5) * 1.3
   plain aleft, aright, 0.22, 0.1
 endin

@@ -49,6 +49,9 @@ instr Credits
   play 16, 20, "Bass", ". . . . . . c2 . . . c2! . . d2 . eb2", 0.9, 0, 0.6
   play 4, 8,   "Arp", ". . g5 . . . d5 . . . eb5 . . . d5 bb4", 0.5, 0, 0.5
   play 12, 16, "Arp", ". . c5 . . . eb5 . . . d5 . . . bb4 c5", 0.5, 0, 0.5
+  hits 12, 16, "Snare", "...o ..o. .o.. .rxx", 0.7, 0, 0.3
+  hits 8, 12,  "Tick", "x.xx .xx. x.xx .x.x", 0.9, 86, 0.9
+  hits 16, 20, "Tick", "xxxx xxxx xxxx xxxx", 0.9, 91, 0.1
   hits 20, 22, "Tom", "..x. ..xx ", 0.8, 40, 0.3
   hits 22, 23, "Tom", ".xxx", 0.8, 36, 0.7
 

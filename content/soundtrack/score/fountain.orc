@@ -4,6 +4,9 @@ gSFountainBass = {{ . g1! g1 g1~    . g1! g1 g2~    . g1! g1 g1~    . g1! g2~ g1
                     . c2! c2 c2~    . c2! c2 c3~    . c2! c2 c2~    . c2! c3~ bb1~  |
                     . ab1! ab1 ab1~ . ab1! ab1 ab2~ . d2! d2 d2~    . d2! d3~ f#1~  }}
 
+gSFountainStabs = {{ g2 . . . . . g2 . . . . . . . . . | g2 . . . . . g2 . . . . . . . . . |
+                     c3 . . . . . c3 . . . . . . . . . | f2 . . . . . f2 . . . . . . . . . }}
+
 ; The four flashes of a bar: its chord falls across the room, a fifth of a beat apart. The bar is counted from 0.
 opcode flashes, 0, iio
   ibar, ilevel, itranspose xin
@@ -22,7 +25,7 @@ instr Fountain
   ; Every four beats: flashes on the chord of the bar
   ibar = 0
   while ibar < 16 do
-    flashes ibar, 0.9, ibar < 12 ? 0 : 2
+    flashes ibar, 1.1, ibar < 12 ? 0 : 2
     ibar += 1
   od
 
@@ -67,12 +70,14 @@ instr Fountain
   play 0, 48, "Pad", gSChords, 0.7, 0, 0.5, 1
   play 48, 63, "Pad", gSChords, 0.8, 2, 0.7, 1
 
-  ; First round: the theme in octaves. Second: arpeggios join, then the floor breaks. Third, inside: the theme low,
+  ; First round: the theme in octaves. Second: its second voice below, arpeggios, and the floor breaks. Third, inside: the theme low,
   ; its canon a beat behind. Fourth: all of it, a whole tone up.
-  play 0, 32,  "Lead", gSTheme, 0.85, 0, 0.7
+  play 0, 16,  "Lead", gSTheme, 0.9, 0, 0.7
+  play 16, 32, "Lead", gSThemeBelow, 0.85, -12, 1
+  play 16, 32, "Wail", gSTheme, 0.7, 0, 0.9
   play 0, 32,  "Wail", gSTheme, 0.75, 12, 0.7
-  play 16, 32, "Arp", gSArp, 0.5, 0, 0.5
-  play 16, 32, "Stab", "g2 . . . . . g2 . . . . . . . . . | g2 . . . . . g2 . . . . . . . . . | c3 . . . . . c3 . . . . . . . . . | f2 . . . . . f2 . . . . . . . . .", 0.4, 0, 0.6
+  play 16, 32, "Arp", gSArp, 0.6, 0, 0.7
+  play 16, 32, "Stab", gSFountainStabs, 0.55, 0, 0.6
 
   play 32, 48, "Lead", gSTheme, 0.85, -12, 0.9
   play 33, 48, "Wail", gSTheme, 0.5, 12, 0.5

@@ -60,6 +60,9 @@ instr GunGirl
   hits 8, 24, "Tick", "x.o. ..x. .o.. x.o.", 0.5, 93, 0.15
   hits 24, 47, "Hat", ".o.. .o.. .o.. .o..", 0.4, 0, 1
   hits 22, 24, "Tom", "..x. x.xx", 0.7, 43, 0.3
+  hits 24, 32, "Tom", ".... ...o ..x. .... | .... ...o ..x. .o..", 0.7, 45, 0.8
+  hits 24, 47, "Snare", ".... ...o .... .... | .... ...o .... .o.o", 0.5, 0, 0.3
+  at 28, "Zap", 0.2, 0.6, 55, 1
 
   ; Turn: the theme's first half, low
   at 32, "Impact", 2, 0.6, 0, 0.4
@@ -72,7 +75,7 @@ instr GunGirl
   at 40, "Impact", 2, 0.7, 0, 0.5
   at 40, "Crash", 4, 0.6
   hits 38, 40, "Tom", "x.x. xxxx", 0.7, 38, 0.7
-  play 40, 48, "Lead", "eb5 - - d5 - - c5 - eb5 - - g5 - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.75, -12, 0.5
+  play 40, 48, "Lead", gSThemeAnswer, 0.75, -12, 0.5
   play 40, 46, "Stab", "c3 . . c3 . . g2 . . . . g2 . . c3 .", 0.45, 0, 0.5
   at 40, "Riser", 7, 0.7, 79, 0.5
   hits 44, 46, "Snare", "o.o. o.o.", 0.6, 0, 0.1

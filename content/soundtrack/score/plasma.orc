@@ -22,7 +22,7 @@ instr Plasma
 
   ; The theme at half speed
   play 0, 31, "Choir", gSTheme, 0.9, 0, 0.6, 0.5
-  play 16, 31, "Wail", "eb5 - - d5 - - c5 - eb5 - - g5 - - f5 - | eb5 - - - d5 - - - ab4 - - - f#4 - - -", 0.7, 0, 0.6, 0.5
+  play 16, 31, "Wail", gSThemeAnswer, 0.7, 0, 0.6, 0.5
   play 8, 24, "Bell", ". . g5 . . . d5 . . . . . bb4 . . .", 0.4, 0, 0.2
 
   play 0, 31, "Arp", gSArp, 0.55, 0, 0.5, 0.5

@@ -12,6 +12,9 @@ gSSwapBass3 = {{ g1! - . g1   - . g1 .    g1! - . g1   - . d2~ .  |
 gSSwapBass5 = {{ g1! . . g1  . . g1 .   g1 g1 . ab1  . . f#1 .   |
                  g1! . . g1  . . g1 .   bb1 bb1 . ab1 . . f#1 f#1 }}
 
+gSSwapGrowl5 = {{ . . . . g1! - - .   . . . .     ab1! - f#1 -   |
+                  . . . . g1! - - .   bb1 - ab1 - g1!  - f#1 -   }}
+
 ; What every shape has: gathering behind a veil from `ibeat` with a kick of its own, the flash 4 beats later, drums.
 opcode shape, 0, iSSSi
   ibeat, Sgathering, Skick, Sclap, idrive xin
@@ -68,7 +71,7 @@ instr Swapper
   hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
   play 36, 48, "Tick", "g5 . . d5 . . g5 . . . bb5 . d5 . . g5", 0.8, 0, 0.15
   play 32, 48, "Lead", gSTheme, 0.75, 0, 0.6
-  play 36, 48, "Wail", "g4 - - g4 - - ab4 - bb4 - - - - - bb4 - | c5 - - g4 - - g4 - c5 - - eb5 - - d5 - | c5 - - - ab4 - - - f#4 - - - d4 - - -", 0.8, 0, 0.5
+  play 32, 48, "Wail", gSThemeBelow, 0.8, 0, 0.5
   play 32, 48, "Pad", gSChords, 0.5, 0, 0.2, 1
   hits 47, 48, "Tom", "xxxx", 0.8, 40, 0.5
 
@@ -101,7 +104,7 @@ instr Swapper
   hits 68, 80, "Ride", "..X. ..X. ..X. ..X.", 0.7
   play 64, 80, "Lead", gSTheme, 1, -24, 1
   play 64, 80, "Lead", gSTheme, 0.7, -12, 0.8
-  play 64, 80, "Growl", ". . . . g1! - - . . . . . ab1! - f#1 - | . . . . g1! - - . bb1 - ab1 - g1! - f#1 -", 1.15, 0, 0.5
+  play 64, 80, "Growl", gSSwapGrowl5, 1.15, 0, 0.5
   play 68, 80, "Stab", "g2 . . g2 . . ab2 . . . f#2 . . . f#2 .", 0.8, 0, 0.8
   hits 78, 80, "Tom", "x..x ..x.", 0.9, 36, 0.3
   hits 79, 80, "Snare", "xrxr", 0.7, 0, 0.2

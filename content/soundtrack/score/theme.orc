@@ -7,6 +7,11 @@ gSTheme = {{
   eb5 -  -  d5  -  -  c5  -   eb5 -  -  g5  -  -  f5  -  |
   eb5 -  -  -   d5 -  -   -   ab4 -  -  -   f#4 - -   -  }}
 
+; Its second half alone
+gSThemeAnswer = {{
+  eb5 -  -  d5  -  -  c5  -   eb5 -  -  g5  -  -  f5  -  |
+  eb5 -  -  -   d5 -  -   -   ab4 -  -  -   f#4 - -   -  }}
+
 ; The theme's bones: its long notes only
 gSThemeBones = {{
   g4  -  -  -   -  -  -   -   d5  -  -  -   -  -  -   -  |

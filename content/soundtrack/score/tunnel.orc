@@ -48,6 +48,9 @@ instr Tunnel
   hits 32, 72, "Clap", ".... X...", 0.8
   hits 40, 72, "Ride", "..x.", 0.7
   hits 48, 72, "Hat", ".X.X", 0.4, 0, 1
+  play 16, 24, "Zap", ". . . . . . g4 . . . . . . . . . | . . . . . . bb4 . . . . d5 . . . .", 0.5, 0, 0.5
+  play 48, 56, "Arp", gSTunnelLine, 0.5, 29, 0.4
+  play 56, 72, "Arp", gSTunnelLine, 0.5, 31, 0.7
   hits 56, 72, "Ride", "x...", 0.7
   hits 64, 68, "Snare", "o.o.", 0.5, 0, 0.1
   hits 68, 70, "Snare", "xoxo", 0.6, 0, 0.3
