@@ -3,6 +3,7 @@
 #include "runtime/beatclock.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <sstream>
@@ -24,10 +25,10 @@ std::vector<std::string> split(std::string const& text, char separator) {
 }
 
 std::optional<Millibeats> parse_beat(std::string const& text) {
-    if (text.empty() || text.find_first_not_of("0123456789.") != std::string::npos || text == ".") return {};
-    if (std::count(text.begin(), text.end(), '.') > 1) return {};
-    double const beats = std::stod(text);
-    if (beats > most_beats) return {};
+    char const* const end = text.data() + text.size();
+    double beats = 0;
+    auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
+    if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
     return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is a hair below 3001
 }
 

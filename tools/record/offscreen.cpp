@@ -2,6 +2,7 @@
 
 #include <EGL/eglext.h>
 #include <GL/gl.h>
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -57,14 +58,11 @@ OffscreenContext::~OffscreenContext() { Close(); }
 
 bool OffscreenContext::Open() {
     Close();
-    for (EGLDisplay candidate : candidates()) {
-        if (candidate != EGL_NO_DISPLAY && OpenOn(candidate)) return true;
-    }
-    return false;
+    return std::ranges::any_of(candidates(), [this](EGLDisplay candidate) { return OpenOn(candidate); });
 }
 
 bool OffscreenContext::OpenOn(EGLDisplay candidate) {
-    if (!eglInitialize(candidate, nullptr, nullptr)) return false;
+    if (candidate == EGL_NO_DISPLAY || !eglInitialize(candidate, nullptr, nullptr)) return false;
     display = candidate;
     EGLConfig config = nullptr;
     if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {

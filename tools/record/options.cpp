@@ -136,7 +136,7 @@ std::optional<int> read_command_line(int argc, char const* const* argv, RecordOp
         if (option->takes_value && i + 1 == argc) return complain(argument + " requires a value");
         std::string const value = option->takes_value ? argv[++i] : "";
         if (Fault const wanted = option->set(options, value)) {
-            return complain(argument + ": '" + value + "' is not " + wanted);
+            return complain(std::string(argument).append(": '").append(value).append("' is not ").append(wanted));
         }
     }
     if (options.list) return std::nullopt;

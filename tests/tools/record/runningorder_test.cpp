@@ -38,15 +38,15 @@ TEST(RunningOrder, PutsTheScenesOneAfterTheOther) {
 
 TEST(RunningOrder, FindsASceneByNameOrStemInAnyCase) {
     RunningOrder const order = two_scenes();
-    for (char const* const name : {"gungirl", "Gun Girl", "GUN GIRL"}) EXPECT_EQ(find_scene(order, name), &order[0]);
-    for (char const* const name : {"wire", "Wire", "tunnelgate"}) EXPECT_EQ(find_scene(order, name), &order[1]);
+    for (char const* const name : {"gungirl", "Gun Girl", "GUN GIRL"}) EXPECT_EQ(find_scene(order, name), order.data());
+    for (char const* const name : {"wire", "Wire", "tunnelgate"}) EXPECT_EQ(find_scene(order, name), order.data() + 1);
     for (char const* const name : {"", "gun", "wires"}) EXPECT_EQ(find_scene(order, name), nullptr);
 }
 
 TEST(RunningOrder, FindsTheSceneOfAMoment) {
     RunningOrder const order = two_scenes();
-    EXPECT_EQ(scene_at(order, 0), &order[0]);
-    EXPECT_EQ(scene_at(order, 7999), &order[0]);
-    EXPECT_EQ(scene_at(order, 8000), &order[1]);
+    EXPECT_EQ(scene_at(order, 0), order.data());
+    EXPECT_EQ(scene_at(order, 7999), order.data());
+    EXPECT_EQ(scene_at(order, 8000), order.data() + 1);
     EXPECT_EQ(scene_at(order, 16000), nullptr);
 }
