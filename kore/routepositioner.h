@@ -9,7 +9,7 @@ namespace kore {
 /// Moves an entity along timed straight lines and jumps.
 class RoutePositioner final : public Mutator {
 public:
-    enum route_transition_t {
+    enum route_transition_t : int {
         LINEAR = 0, ///< a straight line from the previous position, taking the step's length
         JUMP = 1,   ///< to the target at the step's start
     };
