@@ -32,7 +32,7 @@ namespace {
 constexpr char const* window_title = "Hard Silence by Quillon 2012";
 constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
-constexpr int last_beat = 9998;        // safety stop, about 75 minutes
+constexpr int last_beat = 9998;        // safety stop
 constexpr int largest_window = 32767;  // pixels: what the X protocol can say
 
 constexpr char const* help_text = R"(
@@ -250,6 +250,12 @@ void handle_event(Controls& controls, sf::Event const& event) {
     }
 }
 
+unsigned int frame_limit() { return vsync ? 0 : static_cast<unsigned int>(fps_limit_value); }
+
+bool show_over(int beat_count, kore::Demo const& demo) {
+    return beat_count > last_beat || quit || stop_requested() || demo.GetFinished();
+}
+
 void run_show(sf::Window& window) {
     float const beat = beat2seconds(beats_per_minute, 4);
     BeatClock beats(beat);
@@ -278,7 +284,7 @@ void run_show(sf::Window& window) {
         window.display();
         // Only now: the rest of Escape's frame needed the context.
         if (controls.close) window.close();
-        if (state.beat_count > last_beat || quit || stop_requested() || demo.GetFinished()) break;
+        if (show_over(state.beat_count, demo)) break;
     }
     music->Pause();
 }
@@ -297,7 +303,7 @@ int main(int argc, char** argv) {
         window_title, static_cast<sf::Uint32>(video_fullscreen), settings);
     init_gl();
     window.setVerticalSyncEnabled(vsync);
-    window.setFramerateLimit(vsync ? 0 : static_cast<unsigned int>(fps_limit_value));
+    window.setFramerateLimit(frame_limit());
     run_show(window);
     return 0;
 }

@@ -59,5 +59,13 @@ struct Controls {
 /// Acts on one event of the window. All keys but Escape are live in the debugging mode only.
 void handle_event(Controls& controls, sf::Event const& event);
 
+/// Deliberate: only without vertical sync; with it, the screen sets the pace.
+/// @return frames per second; 0 for no limit
+unsigned int frame_limit();
+
+/// Whether the loop ends after a frame: the demo has finished, the program was asked to stop, or the beat count has
+/// passed 9998, which takes about 75 minutes.
+bool show_over(int beat_count, kore::Demo const& demo);
+
 /// Plays the show in an open window until it ends.
 void run_show(sf::Window& window);

@@ -247,6 +247,22 @@ TEST_F(Events, KnowNoOtherKey) {
     }
 }
 
+TEST_F(Events, EndTheShowByCloseByItsOwnEndOrAtBeat9999) {
+    EXPECT_FALSE(show_over(9998, demo));
+    EXPECT_TRUE(show_over(9999, demo)); // although there are scenes left
+    quit = true;
+    EXPECT_TRUE(show_over(0, demo));
+    quit = false;
+    state.beat_count = 100;
+    demo.UpdateLogic(state);
+    state.beat_count = 200;
+    demo.UpdateLogic(state);
+    EXPECT_FALSE(show_over(200, demo));
+    state.beat_count = 300;
+    demo.UpdateLogic(state);
+    EXPECT_TRUE(show_over(300, demo));
+}
+
 TEST_F(Events, OfKeysDoNothingButEscapeWithoutMagic) {
     mushroom_mode = false;
     std::string const before = Everything();

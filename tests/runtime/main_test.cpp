@@ -197,6 +197,15 @@ TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened) {
     }
 }
 
+TEST_F(CommandLine, LimitsTheFrameRateOnlyWithoutVerticalSync) {
+    fps_limit_value = 30;
+    EXPECT_EQ(frame_limit(), 0u);
+    vsync = false;
+    EXPECT_EQ(frame_limit(), 30u);
+    fps_limit_value = 0;
+    EXPECT_EQ(frame_limit(), 0u);
+}
+
 TEST(MyAtoi, ReadsTheNumberAtTheStart) {
     struct {
         char const* text;
