@@ -14,10 +14,9 @@ int display_lost(Display*) {
 } // namespace
 
 bool display_available() {
-    Display* const display = XOpenDisplay(nullptr);
-    if (!display) return false;
-    XCloseDisplay(display);
-    return true;
+    // Never closed: a server whose only client leaves starts anew, and is not to be had meanwhile.
+    static Display* const display = XOpenDisplay(nullptr);
+    return display != nullptr;
 }
 
 void end_quietly_when_display_is_lost() { XSetIOErrorHandler(display_lost); }

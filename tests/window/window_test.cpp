@@ -138,6 +138,17 @@ TEST(Window, AFullScreenModeThatIsNotOfferedStillFillsTheScreen) {
     EXPECT_EQ(show.process.Wait(2s), 0);
 }
 
+TEST(Window, AServerThatEndsWithItsLastClientKeepsTheShowAsOne) {
+    // What looks for the display before the window does must not leave it again.
+    Process server({"Xvfb", "-displayfd", "1", "-terminate", "-nolisten", "tcp", "-screen", "0", "800x600x24"});
+    for (int i = 0; i < 500 && server.Output().find('\n') == std::string::npos; ++i) std::this_thread::sleep_for(10ms);
+    std::string const number = server.Output().substr(0, server.Output().find('\n'));
+    Process show(Show::Command(small()), {"DISPLAY=:" + number});
+    EXPECT_EQ(show.Wait(1500ms), std::nullopt) << show.Error();
+    show.Signal(SIGTERM);
+    EXPECT_EQ(show.Wait(2s), 0);
+}
+
 TEST(Window, ALostDisplayEndsTheProgramWithALine) {
     Show show(small());
     ASSERT_TRUE(show.open);
