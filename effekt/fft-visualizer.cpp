@@ -125,8 +125,8 @@ FftVisualizer::FftVisualizer() : re{}, im{}, power{}, stage_cosine{}, stage_sine
         sine[k] = static_cast<float>(std::sin(static_cast<double>(angle)));
         cosine[k] = static_cast<float>(std::cos(static_cast<double>(angle)));
     }
-    for (unsigned int half = 1, step = points / 2; half < points; half *= 2, step /= 2) {
-        for (unsigned int j = 0; j < half; ++j) {
+    for (std::size_t half = 1, step = points / 2; half < points; half *= 2, step /= 2) {
+        for (std::size_t j = 0; j < half; ++j) {
             stage_cosine[half + j] = cosine[j * step];
             stage_sine[half + j] = sine[j * step];
         }

@@ -6,7 +6,14 @@
 
 namespace kore {
 
-Scene::Scene(std::string const& name) : my_name(name), prepare(std::make_shared<ScenePrepare>()) {}
+namespace {
+
+/// What a scene has until it is given something else.
+class DefaultPrepare final : public ScenePrepare {};
+
+} // namespace
+
+Scene::Scene(std::string const& name) : my_name(name), prepare(std::make_shared<DefaultPrepare>()) {}
 
 void Scene::AddEnabler(std::shared_ptr<Enabler> e) {
     length = std::max(length, e->GetStartBeat() + e->GetLength());
