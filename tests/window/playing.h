@@ -4,6 +4,7 @@
 #include "tests/window/xscreen.h"
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 #include <thread>
 #include <vector>
@@ -57,6 +58,17 @@ inline bool moves(XScreen const& screen) {
         if (!(screen.Look() == before)) return true;
     }
     return false;
+}
+
+/// Waits until the picture stands for a second: strobes run on in frames, not in time, which takes a loaded machine
+/// long.
+/// @return false if it still moves after ten seconds
+inline bool comes_to_rest(XScreen const& screen) {
+    auto const until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (moves(screen) || moves(screen)) {
+        if (std::chrono::steady_clock::now() > until) return false;
+    }
+    return true;
 }
 
 } // namespace window
