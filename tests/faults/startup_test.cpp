@@ -21,7 +21,7 @@ using testing::HasSubstr;
 namespace {
 
 constexpr uid_t nobody = 65534;
-constexpr int cannot_change = 2; ///< exit status: not the folder, or not the user
+constexpr int cannot_change = 2;     ///< exit status: not the folder, or not the user
 constexpr unsigned int longest = 10; // seconds: whoever takes longer hangs
 
 /// What the show does without the file.
