@@ -80,6 +80,14 @@ void XScreen::Up(std::string const& key) const {
     Process({"xdotool", "keyup", key}, {"DISPLAY=" + name}).Wait(std::chrono::seconds(5));
 }
 
+void XScreen::Hammer(std::vector<std::string> const& strokes) const {
+    std::vector<std::string> command = {"xdotool"};
+    command.insert(command.end(), strokes.begin(), strokes.end());
+    if (Process(command, {"DISPLAY=" + name}).Wait(std::chrono::seconds(60)) != 0) {
+        throw std::runtime_error("xdotool fails");
+    }
+}
+
 void XScreen::AskToClose() const {
     XEvent event{};
     event.xclient.type = ClientMessage;

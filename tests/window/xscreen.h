@@ -31,6 +31,10 @@ public:
     void Down(std::string const& key) const;
     void Up(std::string const& key) const;
 
+    /// Presses and releases keys in a hurry.
+    /// @param strokes  "keydown", a key, "keyup", a key and so on, in xdotool's words
+    void Hammer(std::vector<std::string> const& strokes) const;
+
     /// What the close button of a window manager sends.
     void AskToClose() const;
     void Resize(unsigned int width, unsigned int height) const;
