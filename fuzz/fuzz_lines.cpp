@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -74,6 +76,27 @@ void compare_numbers(std::string const& text) {
     compare_vertex("Vertex 0:  X:" + w[0] + "     Y:" + w[1] + "     Z:" + w[2] + "\r\n" + w[3]);
     compare_face("Face 0:    A:" + w[0] + " B:" + w[1] + " C:" + w[2] + " AB:" + w[3] + " BC:" + w[4] + " CA:" + w[5] +
                  "\n");
+}
+
+/// The number halfway between two neighbouring floats, and what it becomes when it is cut to so many decimals: where
+/// rounding twice, to double and to float, goes wrong. Chance alone would hardly ever write such a number.
+void compare_midpoints(std::string const& text) {
+    std::size_t const bits = std::hash<std::string>()(text); // most inputs begin alike
+    constexpr int mantissa_bits = 23;
+    constexpr std::size_t exponents = 10; // numbers from 1 to 1024, as in meshes
+    auto const mantissa = static_cast<float>(bits & ((std::size_t{1} << mantissa_bits) - 1));
+    float const low =
+        std::ldexp(1 + std::ldexp(mantissa, -mantissa_bits), static_cast<int>((bits >> mantissa_bits) % exponents));
+    double const high = std::nextafter(low, std::numeric_limits<float>::infinity());
+    double const middle = (static_cast<double>(low) + high) / 2;
+    constexpr int most_decimals = 18;
+    constexpr std::size_t longest = 32;
+    for (int decimals = 0; decimals + 2 <= most_decimals; decimals += 3) {
+        char numbers[3][longest];
+        for (int i = 0; i < 3; ++i) std::snprintf(numbers[i], longest, "%.*f", decimals + i, middle);
+        compare_vertex(std::string("Vertex 0:  X:") + numbers[0] + "     Y:" + numbers[1] + "     Z:" + numbers[2] +
+                       "\r\n");
+    }
 }
 
 bool fits_int(long long n) { return n >= std::numeric_limits<int>::min() && n <= std::numeric_limits<int>::max(); }
@@ -161,6 +184,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         at += line_length(rest);
     }
     compare_numbers(text);
+    compare_midpoints(text);
     compare_file(text);
     return 0;
 }
