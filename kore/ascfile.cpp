@@ -50,6 +50,7 @@ bool AscFile::NextLine(std::string_view& line) {
     std::size_t const rest = text.size() - at;
     auto const* const feed = static_cast<char const*>(std::memchr(start, '\n', rest));
     std::size_t const length = feed ? static_cast<std::size_t>(feed - start) : rest;
+    if (!feed) at_end = true;
     line = {start, length};
     at += length + 1;
     return true;

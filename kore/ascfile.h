@@ -85,7 +85,7 @@ private:
 
     std::string text;
     std::size_t at = 0;
-    bool at_end = false; ///< set by the read that finds no line
+    bool at_end = false; ///< set by the read that finds no line feed
     std::string buffer;  ///< one line, for the patterns of scanf
 
     std::unique_ptr<Work, Free> work;

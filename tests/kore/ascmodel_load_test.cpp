@@ -53,6 +53,7 @@ constexpr Row rows[] = {
     {"good.asc",                           0,  1, ""                                                            },
     {"two-objects.asc",                    1,  2, ""                                                            },
     {"no-final-newline.asc",               0,  1, ""                                                            },
+    {"unfinished-blank-line.asc",          0,  1, ""                                                            },
     {"two-trailing-blank-lines.asc",       0,  1, ""                                                            },
     {"line-feeds-only.asc",                0,  1, ""                                                            },
     {"second-object-without-name.asc",     1,  2, ""                                                            },

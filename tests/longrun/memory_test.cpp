@@ -1,0 +1,84 @@
+// Ten shows in one process leave no more memory taken than two. With operator new of its own, which counts.
+
+#include "tests/longrun/pace.h"
+#include "tests/show/wholeshow.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <malloc.h>
+#include <new>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+long live = 0; ///< blocks that are allocated
+
+void release(void* memory) {
+    if (memory) --live;
+    std::free(memory);
+}
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++live;
+    if (void* const memory = std::malloc(size ? size : 1)) return memory;
+    throw std::bad_alloc();
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete(void* memory) noexcept { release(memory); }
+void operator delete[](void* memory) noexcept { release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
+
+namespace {
+
+constexpr std::size_t shows = 10;
+constexpr std::size_t warm_up = 2;
+
+/// @return memory that the process has resident, KiB; what is free in the heap has been given back
+long resident() {
+    malloc_trim(0);
+    std::ifstream statm("/proc/self/statm");
+    long size = 0;
+    long pages = 0;
+    statm >> size >> pages;
+    return pages * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+struct Taken {
+    long blocks;
+    long kib;
+};
+
+/// Plays one show to its end.
+Taken play_show() {
+    int const beats = wholeshow::play(
+        longrun::frame_rate(), [] {}, [](wholeshow::Frame const&) {});
+    EXPECT_EQ(beats, 384);
+    long const blocks = live;
+    return {blocks, resident()};
+}
+
+TEST(Memory, IsFlatOverTenShows) {
+    std::vector<Taken> after;
+    after.reserve(shows);
+    while (after.size() < shows) after.push_back(play_show());
+    for (Taken const& taken : after) std::cout << taken.blocks << " blocks, " << taken.kib << " KiB resident\n";
+
+    ASSERT_GT(after[0].blocks, 0);
+    ASSERT_GT(after[0].kib, 0);
+    Taken const warm = after[warm_up - 1];
+    for (std::size_t show = warm_up; show < shows; ++show) {
+        EXPECT_EQ(after[show].blocks, warm.blocks) << "after show " << show + 1;
+#ifndef __SANITIZE_ADDRESS__        // which keeps what is freed, and looks for leaks itself
+        constexpr long slack = 128; // KiB: the heap's holes lie elsewhere in each show
+        EXPECT_LE(after[show].kib, warm.kib + slack) << "after show " << show + 1;
+#endif
+    }
+}
+
+} // namespace
