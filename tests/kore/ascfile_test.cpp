@@ -361,6 +361,20 @@ TEST(AscLines, LeaveEveryLineThatIsNotPlainToThePattern) {
     }
 }
 
+TEST(AscFile, RoundsNumbersHalfwayBetweenTwoFloatsAsThePatternsDo) {
+    // 2^24 + 1 and the like: the nearest double lies just between two floats.
+    constexpr char const* halves[] = {
+        "16777217",       "16777219",       "-16777217",     "8388608.5",     "8388609.5",      "4194304.25",
+        "4194304.75",     "1048576.0625",   "1048576.06249", "1048576.06251", "0.50000002",     "0.500000029802",
+        "16777216.99999", "16777217.00001", "99999999.9999", "123456789",     "12345678.12345", "-0",
+        "-0.0",           "00000001.5"};
+    std::vector<std::string> vertices;
+    for (char const* half : halves) {
+        vertices.push_back(std::string("Vertex 0:  X:") + half + "     Y:" + half + " Z:" + half);
+    }
+    expect_same(object_of(vertices, {plain_face}));
+}
+
 TEST(AscLines, TakeTheExportersOwnLayout) {
     float v[3];
     EXPECT_TRUE(kore::parse_plain_vertex("Vertex 0:  X:-1.50000     Y:0.25000     Z:100.00000\r", v));
