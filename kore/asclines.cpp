@@ -69,12 +69,12 @@ public:
 
     /// A number whose digits are few enough that they and the power of ten below them are exact as doubles; then their
     /// quotient is the double nearest to the number (W. Clinger, "How to read floating point numbers accurately",
-    /// 1990). Rounded once more it is the nearest float, unless it lies just between two of them: those are left alone.
+    /// 1990). Rounded once more it is the nearest float: with at most eight digits behind the point, a number that is
+    /// not itself halfway between two floats is five half steps of a double away from there, and no rounding takes it
+    /// to that point.
     ALWAYS_INLINE bool Float(float& value) {
         constexpr std::uint64_t powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
         constexpr int most_digits = 15;
-        constexpr std::uint64_t tail = (std::uint64_t{1} << 29) - 1; // what a double has more than a float
-        constexpr std::uint64_t halfway = std::uint64_t{1} << 28;
 
         bool const negative = *at == '-';
         at += negative ? 1 : 0;
@@ -87,7 +87,6 @@ public:
 
         double const number =
             static_cast<double>(whole * powers[after_point] + fraction) / static_cast<double>(powers[after_point]);
-        if ((std::bit_cast<std::uint64_t>(number) & tail) == halfway) return false;
         value = static_cast<float>(negative ? -number : number);
         return *at == ' ' || *at == '\r';
     }
