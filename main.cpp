@@ -274,16 +274,20 @@ void run_show(sf::Window& window) {
         controls.now = clock.getElapsedTime().asSeconds();
         sf::Event event;
         while (!controls.close && window.pollEvent(event)) handle_event(controls, event);
+        if (controls.close) window.close();
         controls.view.Step();
         state.time = controls.pauses.ShowTime(controls.now);
         beats.Count(state);
-        window.setActive(true);
-        draw_frame(demo, state, controls.view);
+        // The context goes with the window: what is left of Escape's frame must not draw.
+        if (window.isOpen()) {
+            window.setActive(true);
+            draw_frame(demo, state, controls.view);
+        } else {
+            demo.UpdateLogic(state);
+        }
         frame_counter(controls.now, state.fps);
         state.new_beat = false;
-        window.display();
-        // Only now: the rest of Escape's frame needed the context.
-        if (controls.close) window.close();
+        if (window.isOpen()) window.display();
         if (show_over(state.beat_count, demo)) break;
     }
     music->Pause();

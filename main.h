@@ -52,7 +52,7 @@ struct Controls {
     std::shared_ptr<kore::Music>& music;
     PauseClock pauses;
     DebugCamera view;
-    bool close = false; ///< Escape: the window closes after this frame
+    bool close = false; ///< Escape: the window closes at once
     float now = 0;      ///< clock reading of this frame, seconds
 };
 
