@@ -3,10 +3,10 @@
 #include "kore/asclines.h"
 #include "kore/readfile.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
-#include <new>
 #include <utility>
 
 namespace kore {
@@ -31,14 +31,14 @@ std::string_view object_name(std::string_view line) {
 
 } // namespace
 
-AscFile::AscFile() : work(static_cast<Work*>(std::calloc(1, sizeof(Work)))) {
-    if (!work) throw std::bad_alloc();
-}
+AscFile::AscFile() : work(std::make_unique_for_overwrite<Work>()) {}
 
 bool AscFile::Open(std::string const& path) {
     at = 0;
     at_end = false;
-    return read_file(path, text);
+    if (!read_file(path, file)) return false;
+    text = file.View();
+    return true;
 }
 
 bool AscFile::NextLine(std::string_view& line) {
@@ -147,6 +147,7 @@ bool AscFile::AddVertex() {
     }
     std::memcpy(work->vertices[vertices_read], vertex, sizeof vertex);
     ++vertices_read;
+    vertices_known = std::max(vertices_known, vertices_read);
     return true;
 }
 
@@ -173,10 +174,16 @@ bool AscFile::AddFace() {
     return true;
 }
 
-bool AscFile::IsVertex(long long corner) {
-    if (corner >= 0 && corner < max_vertices) return true;
-    return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner) +
-                ".");
+/// Vertices that no object has had are at the origin.
+bool AscFile::MakeVertex(long long corner) {
+    if (corner < 0 || corner >= max_vertices) {
+        return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner) +
+                    ".");
+    }
+    auto const count = static_cast<int>(corner) + 1;
+    std::fill_n(&work->vertices[vertices_known][0], 3 * (count - vertices_known), 0.0f);
+    vertices_known = count;
+    return true;
 }
 
 bool AscFile::Fail(std::string message) {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "kore/readfile.h"
+
 #include <GL/gl.h>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -47,7 +48,8 @@ public:
     int GetVertexCount() const { return vertex_count; }
     int GetFaceCount() const { return face_count; }
 
-    /// vertex count x 3 floats: x, y, z. (Beyond that, what earlier objects left: a face may refer to it.)
+    /// vertex count x 3 floats: x, y, z. (Beyond that, what earlier objects left, else noughts: a face may refer to
+    /// it.)
     GLfloat const (*GetVertices() const)[3] { return work->vertices; }
     /// face count x 3 ints: vertices A, B, C, 0-based, each below max_vertices
     int const (*GetFaces() const)[3] { return work->faces; }
@@ -63,15 +65,12 @@ private:
         int faces[max_faces][3];
         int edges[max_faces][3];
     };
-    struct Free {
-        void operator()(Work* w) const { std::free(w); }
-    };
     /// How a part of an object ended.
     enum class Part { Done, Short, Fault };
 
     bool NextLine(std::string_view& line);
     /// What has not been read yet, from the start of a line on.
-    std::string_view Rest() const { return at < text.size() ? std::string_view(text).substr(at) : std::string_view(); }
+    std::string_view Rest() const { return at < text.size() ? text.substr(at) : std::string_view(); }
     Part ReadHeader();
     Part ReadVertices();
     Part ReadFaces();
@@ -79,16 +78,20 @@ private:
     bool ScanFace(std::string_view line);
     bool AddVertex();
     bool AddFace();
-    bool IsVertex(long long corner);
+    /// Whether a face can refer to it.
+    bool IsVertex(long long corner) { return (corner >= 0 && corner < vertices_known) || MakeVertex(corner); }
+    bool MakeVertex(long long corner);
     bool Fail(std::string message);
     char const* Terminated(std::string_view line);
 
-    std::string text;
+    FileText file;
+    std::string_view text; ///< of the file
     std::size_t at = 0;
     bool at_end = false; ///< set by the read that finds no line feed
     std::string buffer;  ///< one line, for the patterns of scanf
 
-    std::unique_ptr<Work, Free> work;
+    std::unique_ptr<Work> work; ///< holds nothing beyond what has been read
+    int vertices_known = 0;     ///< of all objects so far: the most there were, or one asked for
     std::string name;
     int vertex_count = 0; ///< as the header says
     int face_count = 0;

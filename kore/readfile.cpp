@@ -8,33 +8,44 @@ namespace kore {
 
 namespace {
 
-bool read_all(int file, std::string& bytes) {
+/// Folders cannot be read, and pipes might never end. O_NONBLOCK has let us look without waiting for a writer.
+bool regular_size(int file, std::size_t& size) {
     struct stat info {};
-    // Folders cannot be read, and pipes might never end. O_NONBLOCK has let us look without waiting for a writer.
     if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode)) return false;
+    size = static_cast<std::size_t>(info.st_size);
+    return true;
+}
 
-    bytes.resize(static_cast<std::size_t>(info.st_size));
+/// @param size  how much to read; if the file has become shorter, how much there was
+bool fill(int file, char* bytes, std::size_t& size) {
     std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        ssize_t const got = read(file, bytes.data() + filled, bytes.size() - filled);
+    while (filled < size) {
+        ssize_t const got = read(file, bytes + filled, size - filled);
         if (got < 0) return false;
         if (got == 0) break;
         filled += static_cast<std::size_t>(got);
     }
-    bytes.resize(filled);
+    size = filled;
     return true;
 }
 
 } // namespace
 
-bool read_file(std::string const& path, std::string& text) {
+bool read_file(std::string const& path, FileText& text) {
     int const file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0) return false;
-    std::string bytes;
-    bool const ok = read_all(file, bytes);
+    std::size_t size = 0;
+    std::unique_ptr<char[]> bytes;
+    bool ok = regular_size(file, size);
+    if (ok) {
+        bytes = std::make_unique_for_overwrite<char[]>(size);
+        ok = fill(file, bytes.get(), size);
+    }
     close(file);
-    if (ok) text = std::move(bytes);
-    return ok;
+    if (!ok) return false;
+    text.bytes = std::move(bytes);
+    text.size = size;
+    return true;
 }
 
 } // namespace kore

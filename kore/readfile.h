@@ -1,12 +1,27 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <string>
+#include <string_view>
 
 namespace kore {
+
+/// What a file holds. (No string: that would fill its memory with noughts before the bytes come.)
+class FileText {
+public:
+    std::string_view View() const { return {bytes.get(), size}; }
+
+private:
+    friend bool read_file(std::string const& path, FileText& text);
+
+    std::unique_ptr<char[]> bytes;
+    std::size_t size = 0;
+};
 
 /// Reads a whole file.
 /// @param text  receives the bytes; left alone on failure
 /// @return false if there is no such regular file, or it cannot be read
-bool read_file(std::string const& path, std::string& text);
+bool read_file(std::string const& path, FileText& text);
 
 } // namespace kore

@@ -388,6 +388,24 @@ TEST(AscLines, TakeTheExportersOwnLayout) {
     EXPECT_EQ(f[4], 0);
 }
 
+TEST(AscFile, HasAtTheOriginWhatNoObjectOfItsFileHas) {
+    support::TempFolder const folder;
+    std::string const face = "Face 0:    A:0 B:2 C:99999 AB:1 BC:1 CA:1";
+    std::vector<std::string> const three(3, "Vertex 0:  X:1.5     Y:-2.0     Z:0.25");
+    std::string const path = folder.Write("mesh.asc", object_of(three, {face}) + "\r\n" + object_of({three[0]}, {face}));
+    // Memory that the reader is given next; the first time malloc learns to keep such pieces.
+    for (int i = 0; i < 2; ++i) std::vector<char> const dirty(8 << 20, '*');
+    kore::AscFile file;
+    ASSERT_TRUE(file.Open(path));
+    for (int object = 0; object < 2; ++object) {
+        ASSERT_EQ(file.Next(), kore::AscFile::Result::Object) << file.GetFault();
+        EXPECT_EQ(file.GetVertices()[2][1], -2.0f) << "the first object's, in both";
+        for (int v = 3; v < kore::AscFile::max_vertices; ++v) {
+            for (int k = 0; k < 3; ++k) ASSERT_EQ(bits_of(file.GetVertices()[v][k]), 0u) << v;
+        }
+    }
+}
+
 TEST(AscFile, EndsForGoodAfterItsLastObjectAndAfterAFault) {
     support::TempFolder const folder;
     kore::AscFile file;

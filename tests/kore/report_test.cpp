@@ -38,15 +38,16 @@ TEST(ReportDeathTest, OfABrokenAssertionIsThePlatformsLine) {
 TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
     support::TempFolder const temp;
     std::string const bytes("a\0b\r\n\xff", 6);
-    std::string text;
+    kore::FileText text;
+    EXPECT_EQ(text.View(), "");
     EXPECT_TRUE(kore::read_file(temp.Write("bytes", bytes), text));
-    EXPECT_EQ(text, bytes);
+    EXPECT_EQ(text.View(), bytes);
     for (std::string const& path : {temp.Path("missing"), temp.Path(""), std::string("/dev/null")}) {
         EXPECT_FALSE(kore::read_file(path, text)) << path;
-        EXPECT_EQ(text, bytes);
+        EXPECT_EQ(text.View(), bytes);
     }
     EXPECT_TRUE(kore::read_file(temp.Write("empty", ""), text));
-    EXPECT_EQ(text, "");
+    EXPECT_EQ(text.View(), "");
 }
 
 } // namespace

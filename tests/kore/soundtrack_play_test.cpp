@@ -17,9 +17,9 @@ constexpr char const* soundtrack = "data/rump2.ogg";
 constexpr int rate = 48000; // Hz
 
 std::string contents(char const* path) {
-    std::string bytes;
-    EXPECT_TRUE(kore::read_file(path, bytes));
-    return bytes;
+    kore::FileText file;
+    EXPECT_TRUE(kore::read_file(path, file));
+    return std::string(file.View());
 }
 
 double mean(std::vector<double> const& values) {

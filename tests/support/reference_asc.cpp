@@ -10,7 +10,7 @@ namespace {
 /// Reads one object after the other.
 class Reader {
 public:
-    explicit Reader(std::string const& text) : stream(text) {}
+    explicit Reader(std::istream& stream_) : stream(stream_) {}
 
     File Read() {
         while (!stream.eof() && ReadObject()) continue;
@@ -82,7 +82,7 @@ private:
         return true;
     }
 
-    std::istringstream stream;
+    std::istream& stream;
     std::string line;
     File file;
     Mesh mesh;
@@ -95,6 +95,11 @@ private:
 
 } // namespace
 
-File read_asc(std::string const& text) { return Reader(text).Read(); }
+File read_asc(std::istream& stream) { return Reader(stream).Read(); }
+
+File read_asc(std::string const& text) {
+    std::istringstream stream(text);
+    return read_asc(stream);
+}
 
 } // namespace reference

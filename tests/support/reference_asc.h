@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct File {
     std::string fault;        ///< the message that reading ends with; "" for none
 };
 
+/// @param stream  at the start of a file
+File read_asc(std::istream& stream);
 /// @param text  a whole file
 File read_asc(std::string const& text);
 
