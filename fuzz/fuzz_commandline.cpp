@@ -1,17 +1,13 @@
-// Any lines as the arguments of a command line, read by main.cpp itself, compiled with its main renamed demo_main.
+// Any lines as the arguments of a command line.
 
 #include "fuzz/check.h"
-#include "main.h"
-#include "show/show.h"
+#include "runtime/commandline.h"
 
 #include <SFML/Window/WindowStyle.hpp>
 #include <cstdint>
 #include <sstream>
 #include <string>
 #include <vector>
-
-/// There is no show here, only its command line.
-void init_demo(kore::Demo&, std::shared_ptr<kore::Music>, float const&) {}
 
 namespace {
 
@@ -27,7 +23,7 @@ void reset_settings() {
     resolution_y = default_height;
     fps_limit_value = default_limit;
     video_fsaa_level = default_samples;
-    fps_counter = mushroom_mode = quit = false;
+    fps_counter = mushroom_mode = false;
 }
 
 void require_sound_settings(std::optional<int> status) {
@@ -35,7 +31,7 @@ void require_sound_settings(std::optional<int> status) {
     fuzz::require(video_fullscreen == sf::Style::Fullscreen || video_fullscreen == sf::Style::Close,
                   "the window has one of two styles");
     fuzz::require(video_fsaa_level == 0 || video_fsaa_level == default_samples, "there are 4 samples or none");
-    fuzz::require(video_depth == 24 && video_stencil == 2 && !quit, "other settings stay");
+    fuzz::require(video_depth == 24 && video_stencil == 2, "other settings stay");
     int const height = static_cast<int>(resolution_x / 1.3333333333333333);
     fuzz::require(resolution_y == height, "width and height are 4:3");
 }
