@@ -14,13 +14,26 @@ unsigned char wave_byte(double wave) { return static_cast<unsigned char>(static_
 /// Where a window starts along one side of a table.
 int window_start(double wave, int half) { return static_cast<int>(wave * (half - 1)) + half; }
 
+/// How far the wave of the palette is ahead in each entry: angles in radians, and their cosines and sines.
+struct EntryAngles {
+    EntryAngles() {
+        for (std::size_t i = 0; i < 256; ++i) {
+            angles[i] = static_cast<double>(i) * kore::PI / 64;
+            cosines[i] = std::cos(angles[i]);
+            sines[i] = std::sin(angles[i]);
+        }
+    }
+    double angles[256];
+    double cosines[256];
+    double sines[256];
+};
+
 } // namespace
 
 bool PlasmaTexture::Init(int w, int h) {
     if (!Texture::Init(w, h)) return false;
     std::size_t const entries = 4 * static_cast<std::size_t>(size);
-    first_wave = std::make_unique<unsigned char[]>(entries);
-    second_wave = std::make_unique<unsigned char[]>(entries);
+    waves = std::make_unique<unsigned char[]>(entries);
     InitPlasma();
     return true;
 }
@@ -31,17 +44,31 @@ void PlasmaTexture::InitPlasma() {
     std::size_t i = 0;
     for (int y = 0; y < table_height; ++y) {
         for (int x = 0; x < table_width; ++x, ++i) {
-            first_wave[i] = wave_byte(std::sin(std::hypot(x, height - y) / 48));
-            first_wave[i] = 0; // Deliberate: the first wave is switched off; the picture is made of the rings alone
+            int first = wave_byte(std::sin(std::hypot(x, height - y) / 48));
+            first = 0; // Deliberate: the first wave is switched off; the picture is made of the rings alone
             int const dx = x - table_width / 2;
             int const dy = y - table_height / 2;
-            second_wave[i] = wave_byte(std::sin(std::sqrt(static_cast<double>(dy * dy + dx * dx)) / 8));
+            int const second = wave_byte(std::sin(std::sqrt(static_cast<double>(dy * dy + dx * dx)) / 8));
+            waves[i] = static_cast<unsigned char>(first + second);
         }
     }
 }
 
 void PlasmaTexture::UpdatePalette(double t) {
-    for (int i = 0; i < 256; ++i) palette[i][0] = wave_byte(std::sin(t / 133 + i * kore::PI / 64));
+    // sin(a + b) = sin a cos b + cos a sin b, where b is the entry's and tabulated. That strays from the sine of the
+    // rounded sum by less than this much of a step; an entry as near to the next step takes the sine itself.
+    constexpr double stray = 1e-6;
+    constexpr double largest = 4294967296; // beyond, the sum is rounded more coarsely
+    static EntryAngles const entries;
+
+    double const sine = std::sin(t / 133);
+    double const cosine = std::cos(t / 133);
+    for (std::size_t i = 0; i < 256; ++i) {
+        double const level = (sine * entries.cosines[i] + cosine * entries.sines[i]) * 127 + 128;
+        double const above = level - static_cast<int>(level);
+        bool const sure = above > stray && above < 1 - stray && std::abs(t) < largest;
+        palette[i][0] = sure ? static_cast<unsigned char>(level) : wave_byte(std::sin(t / 133 + entries.angles[i]));
+    }
 }
 
 void PlasmaTexture::RenderTexture(unsigned int t) {
@@ -61,8 +88,7 @@ void PlasmaTexture::RenderTexture(unsigned int t) {
     unsigned char* pixel = pixels.get();
     for (int y = 0; y < height; ++y) {
         for (std::size_t x = 0; x < row; ++x, ++o1, ++o2) {
-            unsigned int const index = first_wave[o1] + first_wave[o2] + second_wave[o1] + second_wave[o2];
-            *pixel++ = palette[index % 256][0];
+            *pixel++ = palette[static_cast<unsigned char>(waves[o1] + waves[o2])][0];
         }
         // The same column of the next table row: tables are twice as wide as the picture.
         o1 += row;

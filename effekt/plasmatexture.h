@@ -4,10 +4,10 @@
 
 namespace effect {
 
-/// A moving plasma: two windows slide over tables of waves, and a cycling palette colours their sum.
+/// A moving plasma: two windows slide over a table of waves, and a cycling palette colours their sum.
 class PlasmaTexture final : public Texture {
 public:
-    /// Makes the picture and the two wave tables, of twice its width and height each.
+    /// Makes the picture and the table of waves, of twice its width and height.
     /// @return true
     bool Init(int w, int h) override;
 
@@ -27,8 +27,7 @@ private:
     void InitPlasma();
 
     unsigned char palette[256][3] = {};
-    std::unique_ptr<unsigned char[]> first_wave;  ///< 2 height x 2 width bytes, row by row
-    std::unique_ptr<unsigned char[]> second_wave; ///< the same
+    std::unique_ptr<unsigned char[]> waves; ///< sums of both, modulo 256: 2 height x 2 width bytes, row by row
 };
 
 } // namespace effect

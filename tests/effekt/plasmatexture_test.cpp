@@ -1,10 +1,12 @@
 #include "effekt/plasmatexture.h"
 
+#include "kore/perspective.h"
 #include "tests/effekt/plasma.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <random>
 
 using effect_test::palette_level;
 using effect_test::plasma;
@@ -46,6 +48,23 @@ TEST(PlasmaTexture, TurnsAPaletteOfFourWavesInRedAlone) {
     }
     EXPECT_EQ(least, 1);
     EXPECT_EQ(most, 255);
+}
+
+TEST(PlasmaTexture, TurnsItsPaletteAtEveryMomentByTheFormulaItself) {
+    effect::PlasmaTexture texture;
+    std::minstd_rand generator(5);
+    std::uniform_real_distribution<double> any(-4.3e9, 4.3e9);
+    std::vector<double> moments;
+    for (int t = 0; t < 8000; ++t) moments.push_back(t); // all that its scene counts through
+    for (int i = 0; i < 20000; ++i) moments.push_back(any(generator));
+    for (int i = 0; i < 20000; ++i) moments.push_back(any(generator) * 1e4);      // where sums are rounded coarsely
+    for (int i = -4000; i < 4000; ++i) moments.push_back(i * 133 * kore::PI / 2); // quarter turns, exactly on a step
+    for (double const t : moments) {
+        texture.UpdatePalette(t);
+        for (int i = 0; i < 256; ++i) {
+            ASSERT_EQ(texture.GetPaletteEntry(i)[0], palette_level(t, i)) << "entry " << i << " at " << t;
+        }
+    }
 }
 
 TEST(PlasmaTexture, ColoursTheSumOfTwoRingsForEveryPixel) {
