@@ -4,7 +4,6 @@
 #include "show/show.h"
 #include "tests/longrun/pace.h"
 
-#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -28,9 +27,6 @@ private:
 class LongPlay : public testing::Test {
 protected:
     LongPlay() {
-        char const* const given = std::getenv("HARDSILENCE_SEED");
-        seed = given ? static_cast<unsigned int>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-        random.seed(seed);
         quit = false;
         init_demo(demo, nullptr, beat);
         for (int i = 0; i <= last_scene; ++i) {
@@ -72,8 +68,8 @@ protected:
 
     static constexpr unsigned int beats_a_skip = 40;
 
-    unsigned int seed = 0;
-    std::mt19937 random;
+    unsigned int const seed = support::seed();
+    std::mt19937 random{seed};
     float const beat = beat2seconds(beats_per_minute, 4);
     kore::Demo demo{beat};
     BeatClock beats{beat};

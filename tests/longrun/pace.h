@@ -1,16 +1,14 @@
 #pragma once
 
-#include <cstdlib>
-#include <string>
+#include "tests/support/effort.h"
 
 namespace longrun {
 
-/// Frames per second of virtual time: few, but several a beat; the program's own 60 with HARDSILENCE_LONG=1.
+/// Frames per second of virtual time: few, but several a beat; in a long run the program's own 60.
 inline float frame_rate() {
     constexpr float few = 12;
     constexpr float all = 60;
-    char const* const value = std::getenv("HARDSILENCE_LONG");
-    return value && std::string(value) == "1" ? all : few;
+    return support::long_run() ? all : few;
 }
 
 } // namespace longrun
