@@ -1,12 +1,12 @@
 // A stand-in for OpenGL that draws nothing and ends the run at the first call that a driver would refuse: lists within
 // lists, vertices outside of a primitive, names never generated. Every float that is handed over is read.
+// What meshes have no business with does nothing (tests/support/glnone.cpp).
 
 #include "fuzz/strictgl.h"
 
 #include "fuzz/check.h"
 
 #include <GL/gl.h>
-#include <GL/glu.h>
 #include <vector>
 
 namespace {
@@ -78,30 +78,5 @@ void glEnd() {
 
 void glVertex3f(GLfloat x, GLfloat y, GLfloat z) { vertex(x, y, z); }
 void glVertex3fv(GLfloat const* v) { vertex(v[0], v[1], v[2]); }
-
-// What reading a mesh or a command line must never call is here for the linker.
-void glLineWidth(GLfloat) {}
-void glColor3f(GLfloat, GLfloat, GLfloat) {}
-void glColor3fv(GLfloat const*) {}
-void glCallList(GLuint) {}
-void glPushMatrix() {}
-void glPopMatrix() {}
-void glMatrixMode(GLenum) {}
-void glLoadIdentity() {}
-void glTranslatef(GLfloat, GLfloat, GLfloat) {}
-void glScalef(GLfloat, GLfloat, GLfloat) {}
-void glRotatef(GLfloat, GLfloat, GLfloat, GLfloat) {}
-void glFrustum(GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble) {}
-void gluLookAt(GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble) {}
-void glViewport(GLint, GLint, GLsizei, GLsizei) {}
-void glClear(GLbitfield) {}
-void glClearColor(GLclampf, GLclampf, GLclampf, GLclampf) {}
-void glClearDepth(GLclampd) {}
-void glEnable(GLenum) {}
-void glDisable(GLenum) {}
-void glDepthMask(GLboolean) {}
-void glHint(GLenum, GLenum) {}
-void glBlendFunc(GLenum, GLenum) {}
-void glShadeModel(GLenum) {}
 
 } // extern "C"
