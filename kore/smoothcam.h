@@ -14,7 +14,7 @@ public:
     /// @param entity  must be an effect::Camera, which is not checked
     void Do(std::shared_ptr<Entity>& entity, StateData const& state) override {
         if (Vector3<float> const* point = Advance(state.time)) {
-            static_cast<effect::Camera&>(*entity).SetLookPos(*point);
+            static_cast<effect::Camera&>(*entity).SetLookPos(*point); // NOLINT(*-static-cast-downcast): as said
         }
     }
 };

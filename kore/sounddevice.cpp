@@ -12,9 +12,8 @@ namespace {
 /// Sends standard error nowhere while it lives.
 class QuietStandardError {
 public:
-    QuietStandardError() {
+    QuietStandardError() : saved(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0)) {
         std::fflush(stderr);
-        saved = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
         int const nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
         if (saved >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
         if (nowhere >= 0) close(nowhere);

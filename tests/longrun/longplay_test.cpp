@@ -2,7 +2,7 @@
 
 #include "main.h"
 #include "show/show.h"
-#include "tests/longrun/pace.h"
+#include "tests/support/effort.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int last_scene = 7;
+constexpr float frame_rate = 60;
 
 /// Tells when its scene starts.
 class StartNotice final : public kore::ScenePrepare {
@@ -59,7 +60,7 @@ protected:
     }
 
     void Frame() {
-        state.time = static_cast<float>(frame++) / longrun::frame_rate();
+        state.time = static_cast<float>(frame++) / frame_rate;
         beats.Count(state);
         demo.UpdateLogic(state);
         if (state.new_beat) Keys();
@@ -102,7 +103,7 @@ TEST_F(LongPlay, EndsBehindBeat9998WhateverIsSkipped) {
 TEST_F(LongPlay, EndsWithTheLastSceneWhereNothingIsSkipped) {
     do {
         expected = state.beat_count + 1 >= scene_start + CurrentLength() ? current + 1 : current;
-        state.time = static_cast<float>(frame++) / longrun::frame_rate();
+        state.time = static_cast<float>(frame++) / frame_rate;
         beats.Count(state);
         demo.UpdateLogic(state);
         state.new_beat = false;
