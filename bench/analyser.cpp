@@ -79,13 +79,14 @@ BENCHMARK(Plasma);
 
 /// What the plasma moves at the least: two bytes of the table in, one of the picture out.
 void PlasmaTraffic(benchmark::State& state) {
-    std::vector<unsigned char> table(128 * 128, 3);
-    std::vector<unsigned char> picture(64 * 64);
+    constexpr std::size_t side = 64;
+    std::vector<unsigned char> table(4 * side * side, 3);
+    std::vector<unsigned char> picture(side * side);
     for (auto _ : state) {
-        for (std::size_t y = 0; y < 64; ++y) {
-            unsigned char const* a = &table[y * 128 + 7];
-            unsigned char const* b = &table[y * 128 + 29];
-            for (std::size_t x = 0; x < 64; ++x) picture[y * 64 + x] = static_cast<unsigned char>(a[x] + b[x]);
+        for (std::size_t y = 0; y < side; ++y) {
+            unsigned char const* a = &table[y * 2 * side + 7];
+            unsigned char const* b = &table[y * 2 * side + 29];
+            for (std::size_t x = 0; x < side; ++x) picture[y * side + x] = static_cast<unsigned char>(a[x] + b[x]);
         }
         benchmark::DoNotOptimize(picture.data());
         benchmark::ClobberMemory();

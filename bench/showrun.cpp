@@ -7,7 +7,7 @@ namespace bench {
 ShowRun::ShowRun() : beat(beat2seconds(beats_per_minute, 4)), beats(beat), demo(beat) {
     init_demo(demo, nullptr, beat);
     for (auto const& s : demo.GetScenes()) total_beats += s->GetLength();
-    scene_end = demo.GetScenes()[0]->GetLength();
+    scene_end = demo.GetScenes()[0]->GetLength(); // NOLINT(*-prefer-member-initializer): not known before
 }
 
 bool ShowRun::Next() {

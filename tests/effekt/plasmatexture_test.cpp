@@ -55,6 +55,7 @@ TEST(PlasmaTexture, TurnsItsPaletteAtEveryMomentByTheFormulaItself) {
     std::minstd_rand generator(5);
     std::uniform_real_distribution<double> any(-4.3e9, 4.3e9);
     std::vector<double> moments;
+    moments.reserve(56000);
     for (int t = 0; t < 8000; ++t) moments.push_back(t); // all that its scene counts through
     for (int i = 0; i < 20000; ++i) moments.push_back(any(generator));
     for (int i = 0; i < 20000; ++i) moments.push_back(any(generator) * 1e4);      // where sums are rounded coarsely

@@ -34,7 +34,7 @@ std::string wave(std::uint32_t rate, std::uint32_t samples) {
     u16(16);
     bytes += "data";
     u32(samples * 2);
-    return bytes + std::string(samples * 2, '\0');
+    return bytes + std::string(std::size_t{samples} * 2, '\0');
 }
 
 constexpr int expected_rate = 48000;

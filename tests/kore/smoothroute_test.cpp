@@ -36,7 +36,7 @@ struct Subject<SmoothCam> {
         std::sscanf(gl::calls().c_str(), "LookAt(0,0,0,%lf,%lf,%lf,0,1,0)", &x, &y, &z);
         return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)};
     }
-    void Set(Vector3<float> const& v) { static_cast<effect::Camera&>(*entity).SetLookPos(v); }
+    void Set(Vector3<float> const& v) { dynamic_cast<effect::Camera&>(*entity).SetLookPos(v); }
 };
 
 template<typename R>

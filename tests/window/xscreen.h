@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-struct _XDisplay; // Xlib's header defines words such as None as macros, so it stays in the unit
+// Xlib's header defines words such as None as macros, so it stays in the unit.
+struct _XDisplay; // NOLINT(*-reserved-identifier)
 
 /// An X server of its own without a picture on any screen, and a client's view of it.
 class XScreen {
@@ -46,7 +47,9 @@ public:
         int height = 0;
         std::vector<std::uint32_t> pixels;
         bool operator==(Picture const&) const = default;
-        std::uint32_t At(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
+        std::uint32_t At(int x, int y) const {
+            return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+        }
     };
     Picture Look() const;
 

@@ -246,6 +246,7 @@ bool refine(Object& object, double size, double min_angle) {
         members[static_cast<std::size_t>(number[f])].push_back(f);
     }
     std::vector<Facet> facets;
+    facets.reserve(members.size());
     for (auto const& faces : members) facets.emplace_back(object, faces, shown);
 
     Cuts cuts = even_cuts(object, shown, size);

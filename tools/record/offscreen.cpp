@@ -11,7 +11,7 @@ namespace {
 // One of EGL's extension functions; null where there is none.
 template<typename Function>
 Function entry_point(char const* name) {
-    return reinterpret_cast<Function>(eglGetProcAddress(name));
+    return reinterpret_cast<Function>(eglGetProcAddress(name)); // NOLINT(*-reinterpret-cast): EGL's way
 }
 
 bool client_has(std::string_view extension) {
@@ -93,6 +93,6 @@ void OffscreenContext::Close() {
 }
 
 std::string OffscreenContext::Renderer() {
-    auto const* const name = reinterpret_cast<char const*>(glGetString(GL_RENDERER));
+    auto const* const name = reinterpret_cast<char const*>(glGetString(GL_RENDERER)); // NOLINT(*-reinterpret-cast)
     return name ? name : "";
 }
