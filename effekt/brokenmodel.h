@@ -60,8 +60,7 @@ public:
     void SetTransitionTime(float const& time) { myTransitionTime = time; }
 
     /// @param direction  below 0 (at first -1): Break breaks apart; 0 or above: Break closes; 1 or above: and the
-    /// pieces
-    ///                   are drawn scattered while they wait
+    ///                   pieces are drawn scattered while they wait
     void SetDirection(int direction) { myDirection = direction; }
 
     /// Draws the outlines even while the wireframe is off.

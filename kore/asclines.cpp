@@ -59,7 +59,7 @@ ALWAYS_INLINE int take_digits(char const*& at, std::uint64_t& value) {
     return digits;
 }
 
-/// Walks along the usual lines: few blanks, few digits. Every step says whether the line went on as expected, and none
+/// Walks along the usual lines: few blanks, few digits. Its steps say whether the line went on as expected, and none
 /// looks for the end of the text.
 class QuickCursor {
 public:
@@ -76,9 +76,9 @@ public:
         return true;
     }
 
-    ALWAYS_INLINE bool Blanks() {
+    ALWAYS_INLINE QuickCursor& Blanks() {
         for (char const* const most = at + 8; *at == ' ' && at != most;) ++at;
-        return true;
+        return *this;
     }
 
     ALWAYS_INLINE bool Int(int& value) {
@@ -136,9 +136,9 @@ public:
         return true;
     }
 
-    bool Blanks() {
+    Cursor& Blanks() {
         while (at != end && (*at == ' ' || *at == '\t')) ++at;
-        return true;
+        return *this;
     }
 
     /// Plain decimal digits, few enough never to overflow.
@@ -176,22 +176,22 @@ private:
 template<typename C>
 ALWAYS_INLINE bool walk_vertex(C& c, float* v) {
     int index = 0;
-    return c.Text("Vertex ") && c.Blanks() && c.Int(index) && c.Text(":") && //
-           c.Blanks() && c.Text("X:") && c.Blanks() && c.Float(v[0]) &&      //
-           c.Blanks() && c.Text("Y:") && c.Blanks() && c.Float(v[1]) &&      //
-           c.Blanks() && c.Text("Z:") && c.Blanks() && c.Float(v[2]);
+    return c.Text("Vertex ") && c.Blanks().Int(index) && c.Text(":") && //
+           c.Blanks().Text("X:") && c.Blanks().Float(v[0]) &&           //
+           c.Blanks().Text("Y:") && c.Blanks().Float(v[1]) &&           //
+           c.Blanks().Text("Z:") && c.Blanks().Float(v[2]);
 }
 
 template<typename C>
 ALWAYS_INLINE bool walk_face(C& c, int* f) {
     int index = 0;
-    return c.Text("Face ") && c.Blanks() && c.Int(index) && c.Text(":") && //
-           c.Blanks() && c.Text("A:") && c.Int(f[0]) &&                    //
-           c.Blanks() && c.Text("B:") && c.Int(f[1]) &&                    //
-           c.Blanks() && c.Text("C:") && c.Int(f[2]) &&                    //
-           c.Blanks() && c.Text("AB:") && c.Flag(f[3]) &&                  //
-           c.Blanks() && c.Text("BC:") && c.Flag(f[4]) &&                  //
-           c.Blanks() && c.Text("CA:") && c.Flag(f[5]);
+    return c.Text("Face ") && c.Blanks().Int(index) && c.Text(":") && //
+           c.Blanks().Text("A:") && c.Int(f[0]) &&                    //
+           c.Blanks().Text("B:") && c.Int(f[1]) &&                    //
+           c.Blanks().Text("C:") && c.Int(f[2]) &&                    //
+           c.Blanks().Text("AB:") && c.Flag(f[3]) &&                  //
+           c.Blanks().Text("BC:") && c.Flag(f[4]) &&                  //
+           c.Blanks().Text("CA:") && c.Flag(f[5]);
 }
 
 /// How many characters the line at the start of the text takes, if it ends where the fields do, with or without its

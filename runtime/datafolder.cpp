@@ -19,7 +19,8 @@ bool enter_data_folder(std::string const& share) {
     std::error_code error;
     fs::path const beside = fs::read_symlink("/proc/self/exe", error).parent_path();
     // The build folder lies inside the source tree, so the folder above counts as beside, too.
-    for (fs::path const& folder : {beside, beside.parent_path(), fs::path(share)}) {
+    fs::path const folders[] = {beside, beside.parent_path(), share};
+    for (fs::path const& folder : folders) {
         if (folder.empty() || !holds_data(folder)) continue;
         fs::current_path(folder, error);
         return !error;

@@ -15,7 +15,8 @@ int display_lost(Display*) {
 
 bool display_available() {
     // Never closed: a server whose only client leaves starts anew, and is not to be had meanwhile.
-    static Display* const display = XOpenDisplay(nullptr);
+    static Display* display = nullptr;
+    if (!display) display = XOpenDisplay(nullptr);
     return display != nullptr;
 }
 

@@ -1,4 +1,5 @@
 #include "show/score.h"
+#include "show/set.h"
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
@@ -18,15 +19,6 @@ constexpr BlinkRow blinks[] = {
     {24, Blink::Flip,   0 },
     {32, Blink::Flip,   1 },
     {40, Blink::Flip,   0 },
-};
-
-/// The pieces turn a lot and hardly leave their places.
-class Set final : public effect::BrokenModel::DefaultSet {
-public:
-    float set(int index) override {
-        if (index < 0 || index > 5) return 1.0f;
-        return index < 3 ? s(10.0f) : s(0.1f);
-    }
 };
 
 } // namespace
@@ -60,7 +52,7 @@ std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
     pieces->DrawWireframe(true);
     pieces->SetDirection(1);
     pieces->SetTransitionTime(4 * beat);
-    Set set;
+    Set set(10, 0.1f); // they turn a lot and hardly leave their places
     pieces->ResetValues(&set);
     pieces->SetPos({0, 0, 0});
     blinker->Add(pieces);

@@ -1,4 +1,5 @@
 #include "show/score.h"
+#include "show/set.h"
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
@@ -16,21 +17,6 @@ constexpr char const* shapes[] = {
 constexpr int shape_beats = 16;
 constexpr int length = shape_beats * static_cast<int>(std::size(shapes));
 
-/// Pieces of the centre shapes.
-class ShapeSet final : public effect::BrokenModel::DefaultSet {
-public:
-    float set(int index) override {
-        if (index < 0 || index > 5) return 1.0f;
-        return index < 3 ? s(10.0f) : s(3.5f);
-    }
-};
-
-/// Pieces of the ball, which only tremble.
-class BallSet final : public effect::BrokenModel::DefaultSet {
-public:
-    float set(int index) override { return index < 0 || index > 5 ? 1.0f : s(0.1f); }
-};
-
 std::shared_ptr<kore::StaticRotator> make_spin(kore::Vector3<float> const& spin) {
     auto rotator = std::make_shared<kore::StaticRotator>();
     rotator->SetSpin(spin);
@@ -44,7 +30,7 @@ std::shared_ptr<effect::BrokenModel> make_shape(char const* name, float beat) {
     shape->KeepWireframe(true);
     shape->SetDirection(1);
     shape->SetTransitionTime(4 * beat);
-    ShapeSet set;
+    Set set(10, 3.5f);
     shape->ResetValues(&set);
     shape->SetPos({0, 0, 0});
     return shape;
@@ -52,7 +38,7 @@ std::shared_ptr<effect::BrokenModel> make_shape(char const* name, float beat) {
 
 std::shared_ptr<effect::BrokenModel> make_ball() {
     auto ball = std::make_shared<effect::BrokenModel>(models, "frameoctoball", "");
-    BallSet set;
+    Set set(0.1f, 0.1f); // it only trembles
     ball->ResetValues(&set);
     ball->SetColor(1);
     ball->DrawWireframe(true);

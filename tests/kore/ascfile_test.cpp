@@ -377,19 +377,6 @@ TEST(AscFile, RoundsNumbersHalfwayBetweenTwoFloatsAsThePatternsDo) {
     expect_same(object_of(vertices, {plain_face}));
 }
 
-TEST(AscLines, TakeTheExportersOwnLayout) {
-    float v[3];
-    EXPECT_TRUE(kore::parse_plain_vertex("Vertex 0:  X:-1.50000     Y:0.25000     Z:100.00000\r", v));
-    EXPECT_EQ(v[0], -1.5f);
-    EXPECT_EQ(v[1], 0.25f);
-    EXPECT_EQ(v[2], 100.0f);
-    int f[6];
-    EXPECT_TRUE(kore::parse_plain_face("Face 11:    A:10 B:11 C:12 AB:1 BC:0 CA:1\r", f));
-    EXPECT_EQ(f[0], 10);
-    EXPECT_EQ(f[2], 12);
-    EXPECT_EQ(f[4], 0);
-}
-
 TEST(AscFile, HasAtTheOriginWhatNoObjectOfItsFileHas) {
     support::TempFolder const folder;
     std::string const face = "Face 0:    A:0 B:2 C:99999 AB:1 BC:1 CA:1";

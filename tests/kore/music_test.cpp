@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <thread>
 
 namespace {
@@ -149,6 +150,18 @@ TEST(SoundDevice, LeavesStandardErrorAsItWas) {
     kore::sound_device_available();
     std::fputs("heard", stderr);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "heard");
+}
+
+TEST(SoundDevice, MayBeLookedForWhereNoFileCanBeOpened) {
+    testing::internal::CaptureStderr();
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit const none{3, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    kore::sound_device_available();
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+    std::fputs("heard", stderr);
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::EndsWith("heard"));
 }
 
 TEST(SoundDevice, IsMissedInOneLineAndTheShowIsSilent) {

@@ -50,4 +50,13 @@ TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
     EXPECT_EQ(text.View(), "");
 }
 
+TEST(ReadFile, TakesWhatThereIsOfAFileThatSaysItIsLonger) {
+    std::string const path = "/sys/kernel/mm/transparent_hugepage/enabled";
+    if (!std::filesystem::exists(path)) GTEST_SKIP() << "there is no " << path << " here";
+    kore::FileText text;
+    ASSERT_TRUE(kore::read_file(path, text));
+    EXPECT_EQ(text.View(), support::read_all(path));
+    EXPECT_LT(text.View().size(), std::filesystem::file_size(path));
+}
+
 } // namespace
