@@ -14,7 +14,6 @@ std::ostream& operator<<(std::ostream& out, Event const& e) {
 
 namespace {
 
-constexpr Type invert = kore::BlinkerInterface::Invert;
 constexpr Type strobe = kore::BlinkerInterface::Strobe;
 constexpr Type break_up = kore::BlinkerInterface::Break;
 constexpr Type flip = kore::BlinkerInterface::Flip;
