@@ -12,6 +12,13 @@ bool holds_data(fs::path const& folder) {
     return fs::is_directory(folder / "data", error);
 }
 
+bool enter(fs::path const& folder) {
+    if (folder.empty() || !holds_data(folder)) return false;
+    std::error_code error;
+    fs::current_path(folder, error);
+    return !error;
+}
+
 } // namespace
 
 bool enter_data_folder(std::string const& share) {
@@ -19,11 +26,5 @@ bool enter_data_folder(std::string const& share) {
     std::error_code error;
     fs::path const beside = fs::read_symlink("/proc/self/exe", error).parent_path();
     // The build folder lies inside the source tree, so the folder above counts as beside, too.
-    fs::path const folders[] = {beside, beside.parent_path(), share};
-    for (fs::path const& folder : folders) {
-        if (folder.empty() || !holds_data(folder)) continue;
-        fs::current_path(folder, error);
-        return !error;
-    }
-    return false;
+    return enter(beside) || enter(beside.parent_path()) || enter(share);
 }

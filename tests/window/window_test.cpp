@@ -1,6 +1,8 @@
+#include "runtime/display.h"
 #include "tests/window/playing.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <thread>
@@ -104,6 +106,17 @@ TEST(Window, AServerThatEndsWithItsLastClientKeepsTheShowAsOne) {
     EXPECT_EQ(show.Wait(1500ms), std::nullopt) << show.Error();
     show.Signal(SIGTERM);
     EXPECT_EQ(show.Wait(2s), 0);
+}
+
+TEST(Display, IsConnectedToOnceAndNeverLetGo) {
+    XScreen const screen;
+    char const* const before = std::getenv("DISPLAY");
+    std::string const kept = before ? before : "";
+    setenv("DISPLAY", screen.Name().c_str(), 1);
+    EXPECT_TRUE(display_available());
+    setenv("DISPLAY", ":none", 1);
+    EXPECT_TRUE(display_available());
+    before ? setenv("DISPLAY", kept.c_str(), 1) : unsetenv("DISPLAY");
 }
 
 TEST(Window, ALostDisplayEndsTheProgramWithALine) {
