@@ -63,17 +63,9 @@ AscFile::Result AscFile::Next() {
     Part part = ReadHeader();
     if (part == Part::Done) part = ReadVertices();
     if (part == Part::Done) part = ReadFaces();
-    switch (part) {
-    case Part::Done:
-        return Result::Object;
-    case Part::Short:
-        at_end = true;
-        return Result::End;
-    case Part::Fault:
-        at_end = true;
-        return Result::Fault;
-    }
-    return Result::Fault;
+    if (part == Part::Done) return Result::Object;
+    at_end = true;
+    return part == Part::Short ? Result::End : Result::Fault;
 }
 
 AscFile::Part AscFile::ReadHeader() {

@@ -101,6 +101,26 @@ TEST_F(PulseWire, TakesTheFirstCornersFromItsOwnObjectOfTheFile) {
     EXPECT_EQ("Begin(TRIANGLES) " + gl::list_content(5) + " End", effect_test::mesh_faces);
 }
 
+TEST_F(PulseWire, LeavesTheFirstTorusOutWhereItsFileDoesNotHoldIt) {
+    for (char const* const object : {"", "other"}) {
+        SCOPED_TRACE(object);
+        gl::reset();
+        kore::AscModel_ptr const models = Library();
+        models->LoadModel("torus2.asc"); // the model is there, and then its file is another
+        std::filesystem::remove(Root() / "data/torus2.asc");
+        if (*object) WriteMesh("torus2.asc", object);
+        setenv("HARDSILENCE_WIRE", "1", 1);
+        testing::internal::CaptureStdout();
+        effect::PulseWire wire(spline, models);
+        EXPECT_EQ(testing::internal::GetCapturedStdout().empty(), *object != 0);
+        NameLists(*models, "torus2");
+        Draw(wire);
+        EXPECT_THAT(gl::calls(), testing::StartsWith("Begin(QUADS) Color(1,1,1) CallList(0) End Color(0,0,0) "
+                                                     "CallList(torus2-lines) PopMatrix PopMatrix PushMatrix "));
+        WriteMesh("torus2.asc", "torus2");
+    }
+}
+
 TEST_F(PulseWire, HasTheSameEffectByTheStandardWithBothStreams) {
     std::vector<gl::Draw> draws[2];
     gl::Matrix left[2];

@@ -1,8 +1,6 @@
 #include "tests/effekt/support.h"
 
-#include <atomic>
 #include <fstream>
-#include <unistd.h>
 
 namespace effect_test {
 
@@ -19,18 +17,6 @@ kore::StateData state_at(float time, int beat, bool new_beat) {
     state.beat_count = beat;
     state.new_beat = new_beat;
     return state;
-}
-
-TempFolder::TempFolder() {
-    static std::atomic<int> count = 0;
-    my_path = std::filesystem::path(testing::TempDir()) /
-              ("effekt_test-" + std::to_string(getpid()) + '-' + std::to_string(count++));
-    std::filesystem::create_directories(my_path);
-}
-
-TempFolder::~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(my_path, ignored);
 }
 
 WorkingFolder::WorkingFolder(std::filesystem::path const& path) : before(std::filesystem::current_path()) {

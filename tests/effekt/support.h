@@ -3,6 +3,7 @@
 #include "kore/ascmodel.h"
 #include "kore/statedata.h"
 #include "tests/support/glrecorder.h"
+#include "tests/support/temp.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -14,20 +15,6 @@ namespace effect_test {
 
 /// A frame's timing record.
 kore::StateData state_at(float time, int beat = -1, bool new_beat = false);
-
-/// A folder of this process's own, removed with the object.
-class TempFolder {
-public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(TempFolder const&) = delete;
-    TempFolder& operator=(TempFolder const&) = delete;
-
-    std::filesystem::path const& Path() const { return my_path; }
-
-private:
-    std::filesystem::path my_path;
-};
 
 /// Another working folder for as long as it lives.
 class WorkingFolder {
@@ -53,13 +40,13 @@ protected:
     kore::AscModel_ptr Library() const;
 
     /// The folder that holds "data/".
-    std::filesystem::path const& Root() const { return folder.Path(); }
+    std::filesystem::path Root() const { return folder.Path(""); }
 
     /// Lets the log show the two lists of a loaded object as its name and its name with "-lines".
     static void NameLists(kore::AscModel const& models, std::string const& object);
 
 private:
-    TempFolder folder;
+    support::TempFolder const folder;
 };
 
 /// The triangles and the lines of a mesh of WriteMesh, as its lists hold them.

@@ -207,6 +207,27 @@ TEST_F(Loader, TakesAsMuchAsItsTablesHoldAndNoMore) {
     }
 }
 
+TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
+    struct {
+        int vertices, faces;
+        char const* last; ///< and the line that takes its place
+        char const* odd;
+        char const* message;
+    } const meshes[] = {
+        {100001, 1,      "Vertex 100000:", "Vertex 100000 :", "Bad file format, more than 100000 vertices."},
+        {1,      100001, "Face 100000:",   "Face 100000 :",   "Bad file format, more than 100000 faces."   },
+    };
+    support::TempFolder const temp;
+    for (auto const& mesh : meshes) {
+        SCOPED_TRACE(mesh.odd);
+        std::string text = mesh_of(mesh.vertices, mesh.faces);
+        ASSERT_NE(text.find(mesh.last), std::string::npos);
+        text.replace(text.find(mesh.last), std::string(mesh.last).size(), mesh.odd);
+        EXPECT_EQ(Load(temp.Write("big.asc", text), false), -1);
+        EXPECT_THAT(printed, MatchesRegex(line_of(mesh.message)));
+    }
+}
+
 TEST_F(Loader, ReadsLinesOfAnyLength) {
     std::string const long_text(1 << 20, 'x');
     std::string const blanks(1 << 20, ' ');
