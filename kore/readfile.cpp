@@ -1,6 +1,7 @@
 #include "kore/readfile.h"
 
 #include <fcntl.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -37,10 +38,8 @@ bool read_file(std::string const& path, FileText& text) {
     std::size_t size = 0;
     std::unique_ptr<char[]> bytes;
     bool ok = regular_size(file, size);
-    if (ok) {
-        bytes = std::make_unique_for_overwrite<char[]>(size);
-        ok = fill(file, bytes.get(), size);
-    }
+    if (ok) bytes.reset(new (std::nothrow) char[size]);
+    ok = ok && bytes && fill(file, bytes.get(), size);
     close(file);
     if (!ok) return false;
     text.bytes = std::move(bytes);

@@ -21,7 +21,7 @@ private:
 
 /// Reads a whole file.
 /// @param text  receives the bytes; left alone on failure
-/// @return false if there is no such regular file, or it cannot be read
+/// @return false if there is no such regular file, or it cannot be read or held in memory
 bool read_file(std::string const& path, FileText& text);
 
 } // namespace kore

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace {
 
@@ -49,6 +50,23 @@ TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
     EXPECT_TRUE(kore::read_file(temp.Write("empty", ""), text));
     EXPECT_EQ(text.View(), "");
 }
+
+#ifndef __SANITIZE_ADDRESS__ // which ends the program instead
+TEST(ReadFile, RefusesWhatMemoryCannotHold) {
+    support::TempFolder const temp;
+    std::string const path = temp.Write("large", "");
+    std::filesystem::resize_file(path, std::uintmax_t{1} << 36); // all of it a hole
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_AS, &before), 0);
+    rlimit const little{rlim_t{1} << 32, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_AS, &little), 0);
+    kore::FileText text;
+    bool const read = kore::read_file(path, text);
+    ASSERT_EQ(setrlimit(RLIMIT_AS, &before), 0);
+    EXPECT_FALSE(read);
+    EXPECT_EQ(text.View(), "");
+}
+#endif
 
 TEST(ReadFile, TakesWhatThereIsOfAFileThatSaysItIsLonger) {
     std::string const path = "/sys/kernel/mm/transparent_hugepage/enabled";
