@@ -10,6 +10,11 @@ void Blinking::Blink(BlinkerType const& type, int const& value) {
     }
 }
 
+void BlinkingWireframe::Blink(BlinkerType const& type, int const& value) {
+    Blinking::Blink(type, value);
+    if (type == Wireframe) myDrawWireframe = value == 1;
+}
+
 void Blinking::SetColor(int color) {
     myColor = color;
     myNegativeColor = color == 0 ? 1 : 0;

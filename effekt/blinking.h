@@ -52,4 +52,13 @@ private:
     }
 };
 
+/// An effect that hears Wireframe, too.
+class BlinkingWireframe : public Blinking {
+public:
+    void Blink(BlinkerType const& type, int const& value) override;
+
+protected:
+    ~BlinkingWireframe() = default;
+};
+
 } // namespace effect

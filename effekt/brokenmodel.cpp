@@ -138,8 +138,7 @@ void BrokenModel::InternalDraw() {
 }
 
 void BrokenModel::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
+    BlinkingWireframe::Blink(type, value);
     if (type == Break) myState = Requested;
 }
 

@@ -12,7 +12,7 @@ namespace effect {
 
 /// One named model drawn triangle by triangle, so that it can fly apart, or come together out of its pieces: every
 /// piece has a straight way to go and turns of its own, drawn once from a seeded generator.
-class BrokenModel final : public kore::Entity, public Blinking {
+class BrokenModel final : public kore::Entity, public BlinkingWireframe {
 public:
     /// What one piece does per unit of the break amount (a second).
     struct Values {

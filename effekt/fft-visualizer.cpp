@@ -68,8 +68,8 @@ FOR_EACH_PROCESSOR void first_stages(float* re, float* im, float const* cosine, 
     constexpr Lanes sign1 = {1, -1, 1, -1, 1, -1, 1, -1};
     constexpr Lanes sign2 = {1, 1, -1, -1, 1, 1, -1, -1};
     constexpr Lanes sign4 = {1, 1, 1, 1, -1, -1, -1, -1};
-    Values
-        factors; // of the first eight entries, of which stage 1 has the second, stage 2 the next two, stage 4 the rest
+    // Of the first eight entries stage 1 has the second, stage 2 the next two, stage 4 the rest.
+    Values factors;
     load(factors, cosine, sine);
     Values const factor1 = SHUFFLED(factors, 1, 1, 1, 1, 1, 1, 1, 1);
     Values const factor2 = SHUFFLED(factors, 2, 3, 2, 3, 2, 3, 2, 3);

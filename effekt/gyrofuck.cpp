@@ -58,9 +58,4 @@ void GyroFuck::InternalDraw() {
     DrawRing(myScaleC); // Deliberate: one push, two pops
 }
 
-void GyroFuck::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
-}
-
 } // namespace effect

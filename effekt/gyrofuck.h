@@ -8,7 +8,7 @@ namespace effect {
 
 /// Three rings turning about tilted axes, like a gyroscope's. The two inner ones breathe against each other and change
 /// roles on every even beat.
-class GyroFuck final : public kore::Entity, public Blinking {
+class GyroFuck final : public kore::Entity, public BlinkingWireframe {
 public:
     /// Loads "donut2.asc" into the library and takes its object "donut2"; where that fails nothing is drawn.
     explicit GyroFuck(kore::AscModel_ptr models);
@@ -19,9 +19,6 @@ public:
     /// Deliberate: the third ring pops one matrix more than it pushes, and so takes the one that Draw has pushed.
     /// Faces and lines are drawn whatever the two drawing flags say.
     void InternalDraw() override;
-
-    /// Besides Invert and Strobe: Wireframe, which is kept and changes nothing.
-    void Blink(BlinkerType const& type, int const& value) override;
 
 private:
     void DrawRing(float scale);

@@ -85,9 +85,4 @@ void PulseWire::DrawTorus(int i) {
     glPopMatrix();
 }
 
-void PulseWire::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
-}
-
 } // namespace effect

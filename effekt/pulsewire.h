@@ -16,7 +16,7 @@ namespace effect {
 /// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time
 /// and its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws
 /// after the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing.
-class PulseWire final : public kore::Entity, public Blinking {
+class PulseWire final : public kore::Entity, public BlinkingWireframe {
 public:
     /// Environment variable; set to anything but "" or "0", it makes the wire issue only the calls that take effect by
     /// the standard, so that the picture is the standard's on every driver.
@@ -31,9 +31,6 @@ public:
 
     /// Deliberate: draws faces and lines whatever the two drawing flags say.
     void InternalDraw() override;
-
-    /// Besides Invert and Strobe: Wireframe, which is kept and changes nothing.
-    void Blink(BlinkerType const& type, int const& value) override;
 
 private:
     static constexpr int samples = 100; ///< along the spline, both ends counted; the last one is not drawn

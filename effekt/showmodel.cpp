@@ -58,9 +58,4 @@ void ShowModel::DrawScaled(unsigned int list) const {
     glPopMatrix();
 }
 
-void ShowModel::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
-}
-
 } // namespace effect

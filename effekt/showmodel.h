@@ -10,7 +10,7 @@ namespace effect {
 
 /// One named model shown like a sign: it swings in about a hinge parallel to x, stands upright for a while, and swings
 /// away about the mirrored hinge.
-class ShowModel final : public kore::Entity, public Blinking {
+class ShowModel final : public kore::Entity, public BlinkingWireframe {
 public:
     /// @param model_name  object name in the library
     /// @param file_name   file to load when the library does not hold it; "" for the object name with ".asc".
@@ -20,9 +20,6 @@ public:
     char const* Name() override { return "ShowModel"; }
     void UpdateLogic(kore::StateData const& state) override;
     void InternalDraw() override;
-
-    /// Besides Invert and Strobe: Wireframe.
-    void Blink(BlinkerType const& type, int const& value) override;
 
     /// When the model begins to swing in: seconds of scene time, at first 0. (Before, it stands upright.)
     void SetStartTime(float const& time) { myStartTime = time; }

@@ -26,8 +26,7 @@ void SimpleModel::InternalDraw() {
 }
 
 void SimpleModel::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
+    BlinkingWireframe::Blink(type, value);
     if (type == Solid) myDrawSolid = value == 1;
 }
 

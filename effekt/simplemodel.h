@@ -9,7 +9,7 @@
 namespace effect {
 
 /// One named model, solid, as a wireframe or both: at first white faces with black lines.
-class SimpleModel final : public kore::Entity, public Blinking {
+class SimpleModel final : public kore::Entity, public BlinkingWireframe {
 public:
     /// @param model_name  object name in the library
     /// @param file_name   file to load when the library does not hold it; "" for the object name with ".asc".

@@ -59,9 +59,4 @@ void TextureMountain::InternalDraw() {
     glPopMatrix();
 }
 
-void TextureMountain::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
-}
-
 } // namespace effect

@@ -10,7 +10,7 @@ namespace effect {
 
 /// A landscape of 63 x 63 cells, x and y from -32 to 31, whose heights are read from a moving plasma: the darker the
 /// texel, the higher the spike, and a black one is infinitely high.
-class TextureMountain final : public kore::Entity, public Blinking {
+class TextureMountain final : public kore::Entity, public BlinkingWireframe {
 public:
     TextureMountain();
 
@@ -19,9 +19,6 @@ public:
 
     /// Deliberate: draws faces and lines whatever the two drawing flags say.
     void InternalDraw() override;
-
-    /// Besides Invert and Strobe: Wireframe, which is kept and changes nothing.
-    void Blink(BlinkerType const& type, int const& value) override;
 
 private:
     static constexpr int grid_size = 64; ///< texels along each side

@@ -72,9 +72,4 @@ void TorusFountain::InternalDraw() {
     glPopMatrix();
 }
 
-void TorusFountain::Blink(BlinkerType const& type, int const& value) {
-    Blinking::Blink(type, value);
-    if (type == Wireframe) myDrawWireframe = value == 1;
-}
-
 } // namespace effect

@@ -9,7 +9,7 @@
 namespace effect {
 
 /// Six tori that rise and fall in a column from 60 below the origin to 60 above, swelling and shrinking on the way.
-class TorusFountain final : public kore::Entity, public Blinking {
+class TorusFountain final : public kore::Entity, public BlinkingWireframe {
 public:
     /// The motion of one torus.
     struct sizepos {
@@ -29,9 +29,6 @@ public:
 
     /// Deliberate: draws faces and lines whatever the two drawing flags say.
     void InternalDraw() override;
-
-    /// Besides Invert and Strobe: Wireframe, which is kept and changes nothing.
-    void Blink(BlinkerType const& type, int const& value) override;
 
     /// The cubic Hermite step (3 - 2x) x^2 (Perlin and Hoffert, "Hypertexture", 1989), without clamping.
     static float CubicSmoothStep(float const& x);
