@@ -172,9 +172,9 @@ bool AscFile::MakeVertex(long long corner) {
         return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner) +
                     ".");
     }
-    auto const count = static_cast<int>(corner) + 1;
-    std::fill_n(&work->vertices[vertices_known][0], 3 * (count - vertices_known), 0.0f);
-    vertices_known = count;
+    for (; vertices_known <= corner; ++vertices_known) {
+        for (GLfloat& component : work->vertices[vertices_known]) component = 0;
+    }
     return true;
 }
 
