@@ -25,6 +25,7 @@ bool enter_data_folder(std::string const& share) {
     if (holds_data(".")) return true;
     std::error_code error;
     fs::path const beside = fs::read_symlink("/proc/self/exe", error).parent_path();
-    // The build folder lies inside the source tree, so the folder above counts as beside, too.
-    return enter(beside) || enter(beside.parent_path()) || enter(share);
+    fs::path const above = beside.parent_path(); // the build folder lies inside the source tree
+    fs::path const installed = share;
+    return enter(beside) || enter(above) || enter(installed);
 }
