@@ -64,7 +64,8 @@ constexpr char const* face_lines[] = {
 /// of a file and far before it.
 template<typename Check>
 int damage_everywhere(char const* line, Check check) {
-    constexpr char const* others[] = {"", "?", " ", "\t", "\r", "\n", "0", "9", "-", ".", ":", "e", "\xff", "33333333"};
+    constexpr char const* others[] = {"",  "?", " ", "\t", "\r",   "\n",       "0",         "9",
+                                      "-", ".", ":", "e",  "\xff", "33333333", "          "};
     std::string const far(400, 'x');
     int taken = 0;
     for (std::size_t at = 0; at <= std::string(line).size(); ++at) {
@@ -83,6 +84,23 @@ int damage_everywhere(char const* line, Check check) {
 TEST(AscLines, AreTakenAsThePatternTakesThemOrNotAtAllWhateverIsWrong) {
     for (char const* line : vertex_lines) EXPECT_GT(damage_everywhere(line, takes_vertex), 0) << line;
     for (char const* line : face_lines) EXPECT_GT(damage_everywhere(line, takes_face), 0) << line;
+}
+
+TEST(AscLines, AreTakenWithAsManyDigitsAsAnIntAlwaysHolds) {
+    constexpr std::size_t most = 9;
+    std::string const far(400, 'x');
+    for (std::size_t whole = 1; whole <= most + 1; ++whole) {
+        std::string const n(whole, '7');
+        std::string const face = "Face " + n + ":    A:" + n + " B:" + n + " C:" + n + " AB:1 BC:1 CA:0\r\n";
+        EXPECT_EQ(takes_face(face), whole <= most);
+        EXPECT_EQ(takes_face(face + far), whole <= most);
+        for (std::size_t decimals = 0; decimals <= most; ++decimals) {
+            std::string const f = n + '.' + std::string(decimals, '3');
+            std::string const vertex = "Vertex 7:  X:" + f + "     Y:" + f + "     Z:-" + f + "\r\n";
+            EXPECT_TRUE(takes_vertex(vertex));
+            EXPECT_TRUE(takes_vertex(vertex + far));
+        }
+    }
 }
 
 TEST(AscLines, TakeTheExportersOwnLayout) {
