@@ -1,37 +1,14 @@
-// Ten shows in one process leave no more memory taken than two. With operator new of its own, which counts.
+// Ten shows in one process leave no more memory taken than two. Allocates by operators that count.
 
 #include "tests/show/wholeshow.h"
+#include "tests/support/allocations.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <malloc.h>
-#include <new>
 #include <unistd.h>
 #include <vector>
-
-namespace {
-
-long live = 0; ///< blocks that are allocated
-
-void release(void* memory) {
-    if (memory) --live;
-    std::free(memory);
-}
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    ++live;
-    if (void* const memory = std::malloc(size ? size : 1)) return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { release(memory); }
-void operator delete[](void* memory) noexcept { release(memory); }
-void operator delete(void* memory, std::size_t) noexcept { release(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
 
 namespace {
 
@@ -58,7 +35,7 @@ Taken play_show() {
     int const beats = wholeshow::play(
         60, [] {}, [](wholeshow::Frame const&) {});
     EXPECT_EQ(beats, 384);
-    long const blocks = live;
+    long const blocks = allocations::live;
     return {blocks, resident()};
 }
 

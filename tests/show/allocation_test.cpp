@@ -1,6 +1,6 @@
 #include "tests/show/wholeshow.h"
+#include "tests/support/allocations.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
@@ -8,28 +8,14 @@
 
 namespace {
 
-long allocations = 0;
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* const memory = std::malloc(size ? size : 1)) return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
-
-namespace {
-
-TEST(Allocation, IsCountedHere) {
-    long const before = allocations;
+TEST(Allocation, IsCountedHereByEveryOperator) {
+    long const before = allocations::made;
     auto const one = std::make_unique<int>(1);
-    EXPECT_EQ(allocations, before + 1);
+    EXPECT_EQ(allocations::made, before + 1);
     EXPECT_EQ(*one, 1);
+    std::unique_ptr<char[]> const some(new (std::nothrow) char[2]);
+    EXPECT_EQ(allocations::made, before + 2);
+    EXPECT_NE(some, nullptr);
 }
 
 TEST(Allocation, HappensInNoFrameAfterTheFirstOfAScene) {
@@ -40,9 +26,9 @@ TEST(Allocation, HappensInNoFrameAfterTheFirstOfAScene) {
     long before = 0;
     long frames = 0;
     wholeshow::play(
-        60, [&] { before = allocations; },
+        60, [&] { before = allocations::made; },
         [&](wholeshow::Frame const& frame) {
-            long const made = allocations - before;
+            long const made = allocations::made - before;
             ++frames;
             if (!frame.first) by_scene.find(frame.scene)->second += made;
         });
