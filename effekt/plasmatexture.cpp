@@ -28,6 +28,8 @@ struct EntryAngles {
     double sines[256];
 };
 
+EntryAngles const entry_angles;
+
 } // namespace
 
 bool PlasmaTexture::Init(int w, int h) {
@@ -59,15 +61,15 @@ void PlasmaTexture::UpdatePalette(double t) {
     // rounded sum by less than this much of a step; an entry as near to the next step takes the sine itself.
     constexpr double stray = 1e-6;
     constexpr double largest = 4294967296; // beyond, the sum is rounded more coarsely
-    static EntryAngles const entries;
 
     double const sine = std::sin(t / 133);
     double const cosine = std::cos(t / 133);
     for (std::size_t i = 0; i < 256; ++i) {
-        double const level = (sine * entries.cosines[i] + cosine * entries.sines[i]) * 127 + 128;
+        double const level = (sine * entry_angles.cosines[i] + cosine * entry_angles.sines[i]) * 127 + 128;
         double const above = level - static_cast<int>(level);
         bool const sure = above > stray && above < 1 - stray && std::abs(t) < largest;
-        palette[i][0] = sure ? static_cast<unsigned char>(level) : wave_byte(std::sin(t / 133 + entries.angles[i]));
+        palette[i][0] =
+            sure ? static_cast<unsigned char>(level) : wave_byte(std::sin(t / 133 + entry_angles.angles[i]));
     }
 }
 

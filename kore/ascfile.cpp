@@ -36,12 +36,11 @@ AscFile::AscFile() : work(std::make_unique_for_overwrite<Work>()) {}
 bool AscFile::Open(std::string const& path) {
     at = 0;
     at_end = false;
-    if (!read_file(path, file)) return false;
-    text = file.View();
-    return true;
+    return read_file(path, file);
 }
 
 bool AscFile::NextLine(std::string_view& line) {
+    std::string_view const text = file.View();
     if (at >= text.size()) {
         at_end = true;
         return false;

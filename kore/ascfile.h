@@ -70,7 +70,7 @@ private:
 
     bool NextLine(std::string_view& line);
     /// What has not been read yet, from the start of a line on.
-    std::string_view Rest() const { return at < text.size() ? text.substr(at) : std::string_view(); }
+    std::string_view Rest() const { return at < file.View().size() ? file.View().substr(at) : std::string_view(); }
     Part ReadHeader();
     Part ReadVertices();
     Part ReadFaces();
@@ -85,7 +85,6 @@ private:
     char const* Terminated(std::string_view line);
 
     FileText file;
-    std::string_view text; ///< of the file
     std::size_t at = 0;
     bool at_end = false; ///< set by the read that finds no line feed
     std::string buffer;  ///< one line, for the patterns of scanf

@@ -24,7 +24,7 @@ protected:
     DamagedSoundtrack() { sf::err().rdbuf(nullptr); } // the library's own words on every file
     ~DamagedSoundtrack() override { sf::err().rdbuf(before); }
 
-    /// Loads and, whether that succeeds or not, plays for a moment, with an end in it and another start.
+    /// Loads and, whether that succeeds or not, plays for a moment, with a pause in it.
     /// @return whether it was refused, in one line; every other line is a finding
     bool Refused(std::string const& path) {
         testing::internal::CaptureStdout();
@@ -73,7 +73,7 @@ TEST_F(DamagedSoundtrack, IsRefusedWhereItMayNotBeRead) {
     }
 }
 
-TEST_F(DamagedSoundtrack, PlaysAsFarAsItGoesWhereItIsCut) {
+TEST_F(DamagedSoundtrack, OpensWhereItIsCutAnywhereBehindItsHeaders) {
     int playable = 0;
     for (int cut = 0; cut < cuts; ++cut) {
         std::size_t const size = cut < 10 ? std::size_t(cut) * 500 : whole.size() * std::size_t(cut) / cuts;

@@ -72,10 +72,7 @@ int damage_everywhere(char const* line, Check check) {
         for (char const* other : others) {
             std::string text(line);
             text.replace(at, 1, other);
-            for (char const* end : {"\r\n", "\n", "\r", ""}) {
-                taken += check(text + end);
-                if (*end == '\r' || *end == '\n') taken += check(text + "\r\n" + far);
-            }
+            for (char const* end : {"\r\n", "\n", "\r", ""}) taken += check(text + end) + check(text + end + far);
         }
     }
     return taken;

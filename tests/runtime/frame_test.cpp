@@ -86,6 +86,17 @@ TEST_F(DataFolder, IsTheWorkingDirectoryIfThatHoldsData) {
     EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("")));
 }
 
+TEST_F(DataFolder, IsTheProgramsOwnIfThatHoldsData) {
+    fs::path const own = fs::read_symlink("/proc/self/exe").parent_path();
+    ASSERT_TRUE(fs::create_directory(own / "data"));
+    fs::create_directories(temp.Path("share/data"));
+    fs::current_path(temp.Path(""));
+    bool const found = enter_data_folder(temp.Path("share"));
+    fs::remove(own / "data");
+    EXPECT_TRUE(found);
+    EXPECT_TRUE(fs::equivalent(fs::current_path(), own));
+}
+
 TEST_F(DataFolder, IsTheShareFolderIfThereIsNoneElse) {
     fs::create_directories(temp.Path("share/data"));
     fs::create_directory(temp.Path("work"));
