@@ -27,20 +27,22 @@ struct HeldKey {
     std::uint64_t movement;
 };
 
+// clang-format off
 constexpr HeldKey held_keys[] = {
-    {sf::Keyboard::Z,     movement_z_out      },
-    {sf::Keyboard::A,     movement_z_in       },
-    {sf::Keyboard::Up,    movement_y_up       },
-    {sf::Keyboard::Down,  movement_y_down     },
-    {sf::Keyboard::Right, movement_x_right    },
-    {sf::Keyboard::Left,  movement_x_left     },
-    {sf::Keyboard::S,     movement_rot_y_up   },
-    {sf::Keyboard::F,     movement_rot_y_down },
+    {sf::Keyboard::Z,     movement_z_out},
+    {sf::Keyboard::A,     movement_z_in},
+    {sf::Keyboard::Up,    movement_y_up},
+    {sf::Keyboard::Down,  movement_y_down},
+    {sf::Keyboard::Right, movement_x_right},
+    {sf::Keyboard::Left,  movement_x_left},
+    {sf::Keyboard::S,     movement_rot_y_up},
+    {sf::Keyboard::F,     movement_rot_y_down},
     {sf::Keyboard::E,     movement_rot_x_right},
-    {sf::Keyboard::D,     movement_rot_x_left },
-    {sf::Keyboard::X,     movement_rot_z_fw   },
-    {sf::Keyboard::V,     movement_rot_z_bw   },
+    {sf::Keyboard::D,     movement_rot_x_left},
+    {sf::Keyboard::X,     movement_rot_z_fw},
+    {sf::Keyboard::V,     movement_rot_z_bw},
 };
+// clang-format on
 
 std::uint64_t movement_of(sf::Keyboard::Key key) {
     for (HeldKey const& held : held_keys) {
@@ -60,13 +62,13 @@ void toggle_pause(Controls& c) {
 }
 
 constexpr PressedKey pressed_keys[] = {
-    {sf::Keyboard::P, toggle_pause                               },
+    {sf::Keyboard::P, toggle_pause},
     {sf::Keyboard::R, [](Controls& c) { c.view.ResetRotation(); }},
-    {sf::Keyboard::C, [](Controls& c) { c.view.ToggleFree(); }   },
-    {sf::Keyboard::T, [](Controls& c) { c.view.Faster(); }       },
-    {sf::Keyboard::G, [](Controls& c) { c.view.Slower(); }       },
-    {sf::Keyboard::O, [](Controls& c) { c.view.ToggleTarget(); } },
-    {sf::Keyboard::L, [](Controls&) {}                           }, // Deliberate: known, and does nothing
+    {sf::Keyboard::C, [](Controls& c) { c.view.ToggleFree(); }},
+    {sf::Keyboard::T, [](Controls& c) { c.view.Faster(); }},
+    {sf::Keyboard::G, [](Controls& c) { c.view.Slower(); }},
+    {sf::Keyboard::O, [](Controls& c) { c.view.ToggleTarget(); }},
+    {sf::Keyboard::L, [](Controls&) {}}, // Deliberate: known, and does nothing
 };
 
 void key_pressed(Controls& controls, sf::Keyboard::Key key) {

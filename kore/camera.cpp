@@ -14,15 +14,17 @@ void Camera::DebugCam() {
     constexpr float far = -1.1f;
     constexpr float near = -0.1f;
     // The six sides of the box, and a slice through its middle.
+    // clang-format off
     constexpr float quads[7][4][3] = {
-        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {0.5f, 0.5f, near},  {0.5f, -0.5f, near} },
-        {{-0.5f, -0.5f, far},   {-0.5f, 0.5f, far},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}  },
-        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {-0.5f, 0.5f, far},  {-0.5f, -0.5f, far} },
-        {{0.5f, -0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}  },
-        {{-0.5f, -0.5f, near},  {0.5f, -0.5f, near},  {0.5f, -0.5f, far},  {-0.5f, -0.5f, far} },
-        {{-0.5f, 0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {-0.5f, 0.5f, far}  },
+        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {0.5f, 0.5f, near},  {0.5f, -0.5f, near}},
+        {{-0.5f, -0.5f, far},   {-0.5f, 0.5f, far},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}},
+        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {-0.5f, 0.5f, far},  {-0.5f, -0.5f, far}},
+        {{0.5f, -0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}},
+        {{-0.5f, -0.5f, near},  {0.5f, -0.5f, near},  {0.5f, -0.5f, far},  {-0.5f, -0.5f, far}},
+        {{-0.5f, 0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {-0.5f, 0.5f, far}},
         {{-0.5f, -0.5f, -0.6f}, {-0.5f, 0.5f, -0.6f}, {0.5f, 0.5f, -0.6f}, {0.5f, -0.5f, -0.6f}},
     };
+    // clang-format on
     constexpr float red[3] = {1, 0, 0};
 
     glColor3fv(red);

@@ -10,10 +10,7 @@ void SmoothRoute::AddPos(route_transition_t const& type, float const& start, flo
         if (!transitions.empty() && transitions.back().type == SMOOTH) {
             transitions.back().length += length;
         } else {
-            transitions.push_back({
-                type, start, length, {0,  0, 0},
-                   { }
-            });
+            transitions.push_back({type, start, length, {0, 0, 0}, {}});
         }
         transitions.back().spline.AddSplinePoint(point);
     }

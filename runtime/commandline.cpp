@@ -43,18 +43,20 @@ struct Option {
 };
 
 // In the order of checking.
+// clang-format off
 constexpr Option options[] = {
-  // name      value? what it sets
-    {"-w",       false, [](std::string const&) { video_fullscreen = sf::Style::Close; }   },
-    {"-novsync", false, [](std::string const&) { vsync = false; }                         },
-    {"-fps",     false, [](std::string const&) { fps_counter = true; }                    },
-    {"-nolimit", false, [](std::string const&) { fps_limit_value = 0; }                   },
-    {"-magic",   false, [](std::string const&) { mushroom_mode = true; }                  }, // not in the help
-    {"-mute",    false, [](std::string const&) { music_enabled = false; }                 },
-    {"-nofsaa",  false, [](std::string const&) { video_fsaa_level = 0; }                  }, // not in the help
+    // name      value? what it sets
+    {"-w",       false, [](std::string const&) { video_fullscreen = sf::Style::Close; }},
+    {"-novsync", false, [](std::string const&) { vsync = false; }},
+    {"-fps",     false, [](std::string const&) { fps_counter = true; }},
+    {"-nolimit", false, [](std::string const&) { fps_limit_value = 0; }},
+    {"-magic",   false, [](std::string const&) { mushroom_mode = true; }},                   // not in the help
+    {"-mute",    false, [](std::string const&) { music_enabled = false; }},
+    {"-nofsaa",  false, [](std::string const&) { video_fsaa_level = 0; }},                   // not in the help
     {"-limit",   true,  [](std::string const& value) { fps_limit_value = my_atoi(value); }},
-    {"-width",   true,  set_width                                                         },
+    {"-width",   true,  set_width},
 };
+// clang-format on
 
 Option const* find_option(std::string const& name) {
     for (Option const& option : options) {

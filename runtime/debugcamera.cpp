@@ -18,23 +18,25 @@ struct Movement {
     int sign;
 };
 
+// clang-format off
 constexpr Movement translations[] = {
-    {movement_z_out,   z, 1 },
+    {movement_z_out,   z, 1},
     {movement_z_in,    z, -1},
-    {movement_y_up,    y, 1 },
+    {movement_y_up,    y, 1},
     {movement_y_down,  y, -1},
-    {movement_x_right, x, 1 },
+    {movement_x_right, x, 1},
     {movement_x_left,  x, -1},
 };
 
 constexpr Movement rotations[] = {
-    {movement_rot_y_up,    y, 1 },
+    {movement_rot_y_up,    y, 1},
     {movement_rot_y_down,  y, -1},
-    {movement_rot_x_right, x, 1 },
+    {movement_rot_x_right, x, 1},
     {movement_rot_x_left,  x, -1},
-    {movement_rot_z_fw,    z, 1 },
+    {movement_rot_z_fw,    z, 1},
     {movement_rot_z_bw,    z, -1},
 };
+// clang-format on
 
 } // namespace
 

@@ -11,47 +11,49 @@ constexpr int pattern_beats = 24;
 constexpr int length = pattern_beats * repeat_count;
 
 // Which of the three dancers is seen on which beat, and the long flicker in which the type can be read.
+// clang-format off
 constexpr BlinkRow butt_blinks[] = {
-    {0.05f, Blink::Solid,  1 },
+    {0.05f, Blink::Solid,  1},
     {0.05f, Blink::Strobe, 48},
-    {4,     Blink::Solid,  0 },
-    {6,     Blink::Solid,  1 },
-    {7,     Blink::Solid,  0 },
-    {12,    Blink::Solid,  1 },
-    {13,    Blink::Solid,  0 },
-    {15,    Blink::Solid,  1 },
-    {16,    Blink::Solid,  0 },
-    {21,    Blink::Solid,  1 },
-    {22,    Blink::Solid,  0 },
+    {4,     Blink::Solid,  0},
+    {6,     Blink::Solid,  1},
+    {7,     Blink::Solid,  0},
+    {12,    Blink::Solid,  1},
+    {13,    Blink::Solid,  0},
+    {15,    Blink::Solid,  1},
+    {16,    Blink::Solid,  0},
+    {21,    Blink::Solid,  1},
+    {22,    Blink::Solid,  0},
 };
 
 constexpr BlinkRow side_blinks[] = {
-    {4,  Blink::Solid,  1 },
-    {5,  Blink::Solid,  0 },
-    {7,  Blink::Solid,  1 },
-    {8,  Blink::Solid,  0 },
-    {13, Blink::Solid,  1 },
-    {14, Blink::Solid,  0 },
-    {16, Blink::Solid,  1 },
+    {4,  Blink::Solid,  1},
+    {5,  Blink::Solid,  0},
+    {7,  Blink::Solid,  1},
+    {8,  Blink::Solid,  0},
+    {13, Blink::Solid,  1},
+    {14, Blink::Solid,  0},
+    {16, Blink::Solid,  1},
     {16, Blink::Strobe, 48},
-    {20, Blink::Solid,  0 },
-    {22, Blink::Solid,  1 },
-    {23, Blink::Solid,  0 },
+    {20, Blink::Solid,  0},
+    {22, Blink::Solid,  1},
+    {23, Blink::Solid,  0},
 };
 
 constexpr BlinkRow stretched_blinks[] = {
-    {5,  Blink::Solid,  1 },
-    {6,  Blink::Solid,  0 },
-    {8,  Blink::Solid,  1 },
+    {5,  Blink::Solid,  1},
+    {6,  Blink::Solid,  0},
+    {8,  Blink::Solid,  1},
     {8,  Blink::Strobe, 48},
-    {12, Blink::Solid,  0 },
-    {14, Blink::Solid,  1 },
-    {15, Blink::Solid,  0 },
-    {20, Blink::Solid,  1 },
-    {21, Blink::Solid,  0 },
-    {23, Blink::Solid,  1 },
-    {24, Blink::Solid,  0 },
+    {12, Blink::Solid,  0},
+    {14, Blink::Solid,  1},
+    {15, Blink::Solid,  0},
+    {20, Blink::Solid,  1},
+    {21, Blink::Solid,  0},
+    {23, Blink::Solid,  1},
+    {24, Blink::Solid,  0},
 };
+// clang-format on
 
 struct Dancer {
     char const* name;
@@ -60,11 +62,13 @@ struct Dancer {
     float turn; // degrees about y
 };
 
+// clang-format off
 constexpr Dancer dancers[] = {
-    {"butt_silhouette",     butt_blinks,      true,  0  },
-    {"side2_silhouette",    side_blinks,      false, 0  },
+    {"butt_silhouette",     butt_blinks,      true,  0},
+    {"side2_silhouette",    side_blinks,      false, 0},
     {"sideview_silhouette", stretched_blinks, false, 180},
 };
+// clang-format on
 
 std::shared_ptr<effect::Blinker> make_blinker(std::span<BlinkRow const> rows, float beat) {
     auto blinker = std::make_shared<effect::Blinker>();
@@ -97,11 +101,13 @@ std::shared_ptr<kore::Scene> credits_scene(float const& beat) {
         model->SetPos({0, 0, 0});
         blinker->Add(model);
         blinker->Add(background);
-        //  who      from for     view
+        // clang-format off
         Cue const cues[] = {
+            //  who      from for     view
             {blinker, 0, length, in_camera_view},
             {model,   0, length, in_camera_view},
         };
+        // clang-format on
         add_cues(*scene, cues, beat);
     }
 
@@ -112,10 +118,12 @@ std::shared_ptr<kore::Scene> credits_scene(float const& beat) {
     text->SetScale({0.3f, 0.3f, 0.3f});
     text->SetPos({-1.5f, 1.5f, 2.0f});
 
+    // clang-format off
     Cue const cues[] = {
         {text,       0, length, in_camera_view},
-        {background, 0, length, fixed_view    },
+        {background, 0, length, fixed_view},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
     scene->AddCamera(make_enabler({camera, 0, length, in_camera_view}, beat));
     return scene;

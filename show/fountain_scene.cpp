@@ -38,11 +38,13 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     spin->SetSpin({30, 90, 50});
     blinkers[0]->Add(fountain);
 
-    //  who         from for     view            moved by
+    // clang-format off
     Cue const cues[] = {
-        {background, 0, length, fixed_view,     {}    },
+        //  who         from for     view            moved by
+        {background, 0, length, fixed_view,     {}},
         {fountain,   0, length, in_camera_view, {spin}},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
     add_shells(*scene, blinkers, length, beat);
     scene->AddCamera(make_enabler({camera, 0, length, in_camera_view, {route}}, beat));

@@ -35,9 +35,7 @@ Cue make_greeting(char const* name, unsigned int k, float beat) {
     float const start = beat * static_cast<float>(k + k);
     route->AddPos(Route::JUMP, start, 0, {2, -30, 0});
     route->AddPos(Route::LINEAR, start, beat * greeting_beats, {-0.4f, 224.8f, -1.9f});
-    return {
-        greeting, static_cast<int>(k + k), greeting_beats, in_camera_view, {tumble, route}
-    };
+    return {greeting, static_cast<int>(k + k), greeting_beats, in_camera_view, {tumble, route}};
 }
 
 } // namespace
@@ -56,11 +54,13 @@ std::shared_ptr<kore::Scene> greets_scene(float const& beat) {
     fountain->SetColor(1);
     blinkers[0]->Add(fountain);
 
-    //  who         from for     view
+    // clang-format off
     Cue const cues[] = {
-        {background, 0, length, fixed_view    },
+        //  who         from for     view
+        {background, 0, length, fixed_view},
         {fountain,   0, length, in_camera_view},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
     add_shells(*scene, blinkers, length, beat);
 

@@ -12,14 +12,16 @@ namespace {
 
 constexpr int length = 48; // beats
 
+// clang-format off
 constexpr BlinkRow blinks[] = {
-    {0,  Blink::Break,  1 }, // the pieces close in
+    {0,  Blink::Break,  1},  // the pieces close in
     {4,  Blink::Strobe, 56}, // and are whole
-    {16, Blink::Flip,   1 },
-    {24, Blink::Flip,   0 },
-    {32, Blink::Flip,   1 },
-    {40, Blink::Flip,   0 },
+    {16, Blink::Flip,   1},
+    {24, Blink::Flip,   0},
+    {32, Blink::Flip,   1},
+    {40, Blink::Flip,   0},
 };
+// clang-format on
 
 } // namespace
 
@@ -65,19 +67,17 @@ std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
     auto background = make_background(1, beat);
     blinker->Add(background);
 
-    //  who         from for     view
+    // clang-format off
     Cue const cues[] = {
+        //  who         from for     view
         {silhouette, 4, 44,     in_camera_view},
         {pieces,     0, 4,      in_camera_view},
         {gyro,       8, 40,     in_camera_view},
-        {background, 0, length, fixed_view    },
+        {background, 0, length, fixed_view},
         {blinker,    0, length, in_camera_view},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
-    scene->AddCamera(make_enabler(
-        {
-            camera, 0, length, in_camera_view, {route, look}
-    },
-        beat));
+    scene->AddCamera(make_enabler({camera, 0, length, in_camera_view, {route, look}}, beat));
     return scene;
 }

@@ -12,11 +12,13 @@ namespace {
 constexpr int length = 16; // beats
 
 // The glass breaks.
+// clang-format off
 constexpr BlinkRow glass_blinks[] = {
     {12.25f, Blink::Break,  1},
     {12.25f, Blink::Strobe, 2},
     {14.0f,  Blink::Strobe, 2},
 };
+// clang-format on
 
 struct Word {
     char const* name;
@@ -24,6 +26,7 @@ struct Word {
     int beats; // how long it is there; one word comes in on every beat
 };
 
+// clang-format off
 constexpr Word words[] = {
     {"We",       0.1f,   2},
     {"Know",     0.1f,   2},
@@ -33,6 +36,7 @@ constexpr Word words[] = {
     {"Doing",    0.1f,   2},
     {"QUILLONx", 0.065f, 1},
 };
+// clang-format on
 
 std::shared_ptr<effect::ShowModel> make_word(Word const& word, int k, float beat) {
     auto model = std::make_shared<effect::ShowModel>(models, word.name, "");
@@ -77,11 +81,13 @@ std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
         word_blinker->AddEntry(beat * static_cast<float>(i) + 0.25f * beat, beat + beat, Blink::Strobe, 6);
     }
 
-    //              who            from  for     view
+    // clang-format off
     Cue const blinkers[] = {
+        //              who            from  for     view
         {glass_blinker, 0, length, in_camera_view},
         {word_blinker,  0, length, in_camera_view},
     };
+    // clang-format on
     add_cues(*scene, blinkers, beat);
 
     models->LoadModel("weknow.asc");
@@ -111,12 +117,14 @@ std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
     auto background = make_background(1, beat);
     glass_blinker->Add(background);
 
-    //  who         from  for     view            moved by
+    // clang-format off
     Cue const cues[] = {
+        //  who         from  for     view            moved by
         {tag,        7,  9,      in_camera_view, {tag_spin, make_tag_route(beat)}},
-        {glass,      10, 6,      in_camera_view, {}                              },
-        {background, 0,  length, fixed_view,     {}                              },
+        {glass,      10, 6,      in_camera_view, {}},
+        {background, 0,  length, fixed_view,     {}},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
     scene->AddCamera(make_enabler({camera, 0, length, in_camera_view}, beat));
     return scene;

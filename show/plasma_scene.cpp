@@ -8,12 +8,14 @@ namespace {
 
 constexpr int length = 32; // beats
 
+// clang-format off
 constexpr BlinkRow blinks[] = {
     {0,  Blink::Strobe, 9000}, // longer than the scene
     {28, Blink::Strobe, 9000},
-    {0,  Blink::Break,  1   }, // Deliberate: nothing here reacts to it
-    {28, Blink::Break,  1   },
+    {0,  Blink::Break,  1},    // Deliberate: nothing here reacts to it
+    {28, Blink::Break,  1},
 };
+// clang-format on
 
 struct Title {
     char const* name;
@@ -22,11 +24,13 @@ struct Title {
     float y;
 };
 
+// clang-format off
 constexpr Title titles[] = {
-    {"QUILLONx-title", 0.5f, 0.01f, 15 },
-    {"HARD-title",     30,   1,     0  },
+    {"QUILLONx-title", 0.5f, 0.01f, 15},
+    {"HARD-title",     30,   1,     0},
     {"SILENCE-title",  6.5f, 1,     -11},
 };
+// clang-format on
 
 std::shared_ptr<effect::SimpleModel> make_title(Title const& title) {
     auto model = std::make_shared<effect::SimpleModel>(models, title.name, "");
@@ -55,11 +59,13 @@ std::shared_ptr<kore::Scene> plasma_scene(float const& beat) {
     auto mountain = std::make_shared<effect::TextureMountain>();
     mountain->SetPos({0, 0, 0});
 
-    //  who         from for     view
+    // clang-format off
     Cue const ground[] = {
-        {background, 0, length, fixed_view    },
+        //  who         from for     view
+        {background, 0, length, fixed_view},
         {mountain,   0, length, in_camera_view},
     };
+    // clang-format on
     add_cues(*scene, ground, beat);
 
     for (Title const& title : titles) {

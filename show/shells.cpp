@@ -17,11 +17,13 @@ struct Shell {
     float spin[3];       // degrees per second
 };
 
+// clang-format off
 constexpr Shell shells[] = {
     {"hollowsoccerball", 20,  0, 1, {-30, -90, -50}},
-    {"frameoctoball",    30,  1, 2, {10, 30, -20}  },
-    {"frameicosahedron", 150, 0, 3, {-40, -30, 20} },
+    {"frameoctoball",    30,  1, 2, {10, 30, -20}},
+    {"frameicosahedron", 150, 0, 3, {-40, -30, 20}},
 };
+// clang-format on
 
 } // namespace
 

@@ -94,13 +94,15 @@ std::shared_ptr<kore::Scene> swapper_scene(float const& beat) {
     auto background = make_background(1, beat);
     blinker->Add(background);
 
-    //  who         from for     view            moved by
+    // clang-format off
     Cue const cues[] = {
-        {gun,        0, length, fixed_view,     {}                       },
+        //  who         from for     view            moved by
+        {gun,        0, length, fixed_view,     {}},
         {ball,       0, length, in_camera_view, {make_spin({90, 30, 50})}},
-        {background, 0, length, fixed_view,     {}                       },
-        {blinker,    0, length, in_camera_view, {}                       },
+        {background, 0, length, fixed_view,     {}},
+        {blinker,    0, length, in_camera_view, {}},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
     scene->AddCamera(make_enabler({camera, 0, length, in_camera_view}, beat));
     return scene;

@@ -17,10 +17,11 @@ struct Point {
 };
 
 // The way of the wire and of the camera through it.
+// clang-format off
 constexpr Point path_points[] = {
-    {0,   0,   0   },
-    {-5,  -10, -40 },
-    {5,   20,  -90 },
+    {0,   0,   0},
+    {-5,  -10, -40},
+    {5,   20,  -90},
     {-20, 30,  -140},
     {-30, 40,  -200},
     {10,  50,  -260},
@@ -28,11 +29,13 @@ constexpr Point path_points[] = {
     {10,  50,  -340},
     {-10, 30,  -400},
 };
+// clang-format on
 
 // What the camera looks at. Deliberate: far aside in the middle, and back over its shoulder at the end.
+// clang-format off
 constexpr Point look_points[] = {
-    {-5,   -10, -40 },
-    {5,    20,  -90 },
+    {-5,   -10, -40},
+    {5,    20,  -90},
     {-20,  30,  -140},
     {-30,  40,  -200},
     {1000, 50,  -260},
@@ -41,6 +44,7 @@ constexpr Point look_points[] = {
     {20,   60,  -400},
     {-10,  30,  -250},
 };
+// clang-format on
 
 std::shared_ptr<kore::CatmullRom> make_spline(std::span<Point const> points) {
     auto spline = std::make_shared<kore::CatmullRom>();
@@ -99,19 +103,17 @@ std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
     auto lower_right = make_tentacles({0.3f, -0.7f, -1}, {180, 180, 0});
     blinker->Add(lower_right);
 
-    //  who          from for     view
+    // clang-format off
     Cue const cues[] = {
+        //  who          from for     view
         {blinker,     0, length, in_camera_view},
-        {background,  0, length, fixed_view    },
+        {background,  0, length, fixed_view},
         {wire,        0, length, in_camera_view},
         {upper_left,  0, length, in_camera_view},
         {lower_right, 0, length, in_camera_view},
     };
+    // clang-format on
     add_cues(*scene, cues, beat);
-    scene->AddCamera(make_enabler(
-        {
-            camera, 0, length, in_camera_view, {fly, aim}
-    },
-        beat));
+    scene->AddCamera(make_enabler({camera, 0, length, in_camera_view, {fly, aim}}, beat));
     return scene;
 }

@@ -49,9 +49,10 @@ Recording const& recording() {
 std::size_t sample_at(double beat) { return static_cast<std::size_t>(std::llround(beat * beat_seconds * rate)); }
 
 std::vector<Stretch> const& sections() {
+    // clang-format off
     static std::vector<Stretch> const table = {
-        {"Intro",      0,   16 },
-        {"Gun Girl",   16,  64 },
+        {"Intro",      0,   16},
+        {"Gun Girl",   16,  64},
         {"Swapper",    64,  160},
         {"Credits",    160, 184},
         {"Tunnelgate", 184, 256},
@@ -59,19 +60,22 @@ std::vector<Stretch> const& sections() {
         {"Fountain",   288, 352},
         {"Greets",     352, 384},
     };
+    // clang-format on
     return table;
 }
 
 std::vector<Stretch> const& hard_silences() {
+    // clang-format off
     static std::vector<Stretch> const table = {
-        {"before Gun Girl",   15,    16 },
-        {"before Swapper",    63,    64 },
+        {"before Gun Girl",   15,    16},
+        {"before Swapper",    63,    64},
         {"before Credits",    159,   160},
         {"before Tunnelgate", 183.5, 184},
         {"before Plasma",     255.5, 256},
         {"before Fountain",   287,   288},
         {"before Greets",     351,   352},
     };
+    // clang-format on
     return table;
 }
 

@@ -69,20 +69,22 @@ struct Hits {
 
 /// Every hit that the picture makes, in beats of the show.
 std::vector<Hits> hits() {
+    // clang-format off
     std::vector<Hits> all = {
-        {"a word of the intro",            {0, 1, 2, 3, 4, 5, 6}                                                 },
-        {"the flash after a word",         {0.25, 1.25, 2.25, 3.25, 4.25, 5.25, 6.25}                            },
-        {"the glass and the second hit",   {12.25, 14}                                                           },
-        {"she stands; the camera jumps",   {16, 20, 24}                                                          },
-        {"the background turns",           {32, 40, 48, 56}                                                      },
-        {"a shape, and its flash",         {64, 68, 80, 84, 96, 100, 112, 116, 128, 132, 144, 148}               },
+        {"a word of the intro",            {0, 1, 2, 3, 4, 5, 6}},
+        {"the flash after a word",         {0.25, 1.25, 2.25, 3.25, 4.25, 5.25, 6.25}},
+        {"the glass and the second hit",   {12.25, 14}},
+        {"she stands; the camera jumps",   {16, 20, 24}},
+        {"the background turns",           {32, 40, 48, 56}},
+        {"a shape, and its flash",         {64, 68, 80, 84, 96, 100, 112, 116, 128, 132, 144, 148}},
         {"the dancers swap",               {164, 165, 166, 167, 168, 172, 173, 174, 175, 176, 180, 181, 182, 183}},
-        {"the flickers begin",             {160, 168, 176}                                                       },
-        {"a blow in the tunnel",           {}                                                                    },
-        {"the title",                      {256, 284}                                                            },
-        {"four flashes of the fountain",   {}                                                                    },
-        {"the last scene, the last chord", {352, 384}                                                            },
+        {"the flickers begin",             {160, 168, 176}},
+        {"a blow in the tunnel",           {}},
+        {"the title",                      {256, 284}},
+        {"four flashes of the fountain",   {}},
+        {"the last scene, the last chord", {352, 384}},
     };
+    // clang-format on
     for (int beat = 184; beat < 256; ++beat) all[8].beats.push_back(beat);
     for (int bar = 288; bar < 351; bar += 4)
         for (double flash : {0.0, 0.2, 0.4, 0.6}) all[10].beats.push_back(bar + flash);

@@ -40,42 +40,42 @@ struct Model {
 [[maybe_unused]] void PrintTo(Model const& model, std::ostream* out) { *out << model.object; }
 
 std::vector<Model> const models = {
-  // file, object, kind, centre, half extents, tolerance, faces
-    {"weknow",    "We",                   solid,           {-1.5, 0, 0},    {4.5, 4.8, 0.6},          0.02,  80,   900 },
-    {"weknow",    "Know",                 solid,           {-1.5, 0, 0},    {8.82, 4.8, 0.6},         0.02,  100,  900 },
-    {"weknow",    "What",                 solid,           {-1.5, 0, 0},    {8.73, 4.8, 0.6},         0.02,  100,  900 },
-    {"weknow",    "Are",                  solid,           {-1.5, 0, 0},    {5.76, 4.8, 0.6},         0.02,  100,  900 },
-    {"weknow",    "Doing",                solid,           {-1.5, 0, 0},    {8.78, 4.8, 0.6},         0.02,  100,  900 },
-    {"weknow",    "QUILLONx",             solid,           {-0.5, 0, 0},    {15, 4.6, 0.8},           0.02,  200,  1500},
-    {same,        "glass",                flat_shattered,  {0, 0, 0},       {3.6, 3.2, 0},            0.001, 200,  350 },
-    {same,        "gungirl_silhouette",   flat_shattered,  {0, 0, 0},       {1.7, 4.75, 0},           0.35,  1000, 1600},
-    {same,        "donut2",               solid,           {0, 0, 0},       {0.92, 0.92, 0.04},       0.001, 1000, 1500},
-    {same,        "framecube",            solid_shattered, {0, 0, 0},       {6.062, 6.062, 6.062},    0.001, 500,  900 },
-    {same,        "frametetrahedron",     solid_shattered, {0, 0, 0},       {6.062, 6.062, 6.062},    0.001, 500,  900 },
-    {same,        "frameoctoball",        solid_shattered, {0, 0, 0},       {6.5, 6.5, 6.5},          0.001, 400,  600 },
-    {same,        "spikeydodecahedron",   solid_shattered, {0, 0, 0},       {8.507, 8.507, 8.507},    0.001, 300,  900 },
-    {same,        "infinity",             solid_shattered, {0, 0, 0},       {4.9, 4.9, 10},           0.1,   400,  900 },
-    {same,        "maltanristi",          solid_shattered, {0, 0, 0},       {6.06, 6.06, 8.02},       0.02,  400,  900 },
-    {same,        "gun_silhouette",       flat,            {0, 0, 0},       {4, 2.5, 0},              1.2,   50,   600 },
-    {same,        "credits",              flat,            {-0.9, -3.5, 0}, {3.2, 7.5, 0},            0.2,   300,  3000},
-    {same,        "butt_silhouette",      flat,            {0.9, 0, 0},     {1.3, 4.5, 0},            0.4,   300,  2500},
-    {same,        "side2_silhouette",     flat,            {0.9, 0, 0},     {1.3, 4.5, 0},            0.4,   300,  2500},
-    {same,        "sideview_silhouette",  flat,            {-0.9, 0, 0},    {1.3, 4.5, 0},            0.4,   300,  2500},
-    {same,        "torus2",               solid,           {0, 0, 0},       {3.62, 3.62, 0.42},       0.001, 400,  600 },
-    {same,        "tentacles_silhouette", flat,            {0, 0, -0.02},   {5, 5, 0},                2.5,   400,  2500},
-    {same,        "QUILLONx-title",       flat,            {0, 0, 0},       {36, 7.5, 0},             0.01,  80,   1500},
-    {same,        "HARD-title",           flat,            {0, 0.04, 0},    {0.6, 0.26, 0},           0.001, 60,   600 },
-    {same,        "SILENCE-title",        flat,            {0, -0.3, 0},    {2.8, 0.58, 0},           0.005, 80,   900 },
-    {same,        "hollowsoccerball",     solid,           {0, 0, 0},       {3.918, 3.918, 3.918},    0.001, 1000, 2000},
-    {same,        "frameicosahedron",     solid,           {0, 0, 0},       {1.7013, 1.7013, 1.7013}, 0.001, 300,  1500},
-    {"greetings", "Arbalest",             solid,           {0, 0.16, 0},    {1.78, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Pixelherds",           solid,           {0, 0.16, 0},    {2.12, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Lanternfly",           solid,           {0, 0.16, 0},    {2.16, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Mirevolt",             solid,           {0, 0.16, 0},    {1.69, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Quartzine",            solid,           {0, 0.16, 0},    {1.9, 0.52, 0.1},         0.02,  200,  1800},
-    {"greetings", "Tundrabeat",           solid,           {0, 0.16, 0},    {2.29, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Obelisk_K",            solid,           {0, 0.16, 0},    {1.76, 0.52, 0.1},        0.02,  200,  1800},
-    {"greetings", "Heavy_Cart",           solid,           {0, 0.16, 0},    {2.13, 0.52, 0.1},        0.02,  200,  1800},
+    // file, object, kind, centre, half extents, tolerance, faces
+    {"weknow", "We", solid, {-1.5, 0, 0}, {4.5, 4.8, 0.6}, 0.02, 80, 900},
+    {"weknow", "Know", solid, {-1.5, 0, 0}, {8.82, 4.8, 0.6}, 0.02, 100, 900},
+    {"weknow", "What", solid, {-1.5, 0, 0}, {8.73, 4.8, 0.6}, 0.02, 100, 900},
+    {"weknow", "Are", solid, {-1.5, 0, 0}, {5.76, 4.8, 0.6}, 0.02, 100, 900},
+    {"weknow", "Doing", solid, {-1.5, 0, 0}, {8.78, 4.8, 0.6}, 0.02, 100, 900},
+    {"weknow", "QUILLONx", solid, {-0.5, 0, 0}, {15, 4.6, 0.8}, 0.02, 200, 1500},
+    {same, "glass", flat_shattered, {0, 0, 0}, {3.6, 3.2, 0}, 0.001, 200, 350},
+    {same, "gungirl_silhouette", flat_shattered, {0, 0, 0}, {1.7, 4.75, 0}, 0.35, 1000, 1600},
+    {same, "donut2", solid, {0, 0, 0}, {0.92, 0.92, 0.04}, 0.001, 1000, 1500},
+    {same, "framecube", solid_shattered, {0, 0, 0}, {6.062, 6.062, 6.062}, 0.001, 500, 900},
+    {same, "frametetrahedron", solid_shattered, {0, 0, 0}, {6.062, 6.062, 6.062}, 0.001, 500, 900},
+    {same, "frameoctoball", solid_shattered, {0, 0, 0}, {6.5, 6.5, 6.5}, 0.001, 400, 600},
+    {same, "spikeydodecahedron", solid_shattered, {0, 0, 0}, {8.507, 8.507, 8.507}, 0.001, 300, 900},
+    {same, "infinity", solid_shattered, {0, 0, 0}, {4.9, 4.9, 10}, 0.1, 400, 900},
+    {same, "maltanristi", solid_shattered, {0, 0, 0}, {6.06, 6.06, 8.02}, 0.02, 400, 900},
+    {same, "gun_silhouette", flat, {0, 0, 0}, {4, 2.5, 0}, 1.2, 50, 600},
+    {same, "credits", flat, {-0.9, -3.5, 0}, {3.2, 7.5, 0}, 0.2, 300, 3000},
+    {same, "butt_silhouette", flat, {0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
+    {same, "side2_silhouette", flat, {0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
+    {same, "sideview_silhouette", flat, {-0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
+    {same, "torus2", solid, {0, 0, 0}, {3.62, 3.62, 0.42}, 0.001, 400, 600},
+    {same, "tentacles_silhouette", flat, {0, 0, -0.02}, {5, 5, 0}, 2.5, 400, 2500},
+    {same, "QUILLONx-title", flat, {0, 0, 0}, {36, 7.5, 0}, 0.01, 80, 1500},
+    {same, "HARD-title", flat, {0, 0.04, 0}, {0.6, 0.26, 0}, 0.001, 60, 600},
+    {same, "SILENCE-title", flat, {0, -0.3, 0}, {2.8, 0.58, 0}, 0.005, 80, 900},
+    {same, "hollowsoccerball", solid, {0, 0, 0}, {3.918, 3.918, 3.918}, 0.001, 1000, 2000},
+    {same, "frameicosahedron", solid, {0, 0, 0}, {1.7013, 1.7013, 1.7013}, 0.001, 300, 1500},
+    {"greetings", "Arbalest", solid, {0, 0.16, 0}, {1.78, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Pixelherds", solid, {0, 0.16, 0}, {2.12, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Lanternfly", solid, {0, 0.16, 0}, {2.16, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Mirevolt", solid, {0, 0.16, 0}, {1.69, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Quartzine", solid, {0, 0.16, 0}, {1.9, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Tundrabeat", solid, {0, 0.16, 0}, {2.29, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Obelisk_K", solid, {0, 0.16, 0}, {1.76, 0.52, 0.1}, 0.02, 200, 1800},
+    {"greetings", "Heavy_Cart", solid, {0, 0.16, 0}, {2.13, 0.52, 0.1}, 0.02, 200, 1800},
 };
 
 std::set<std::string> files() {
@@ -296,14 +296,16 @@ TEST(Solids, ReachExactlyToTheirRadius) {
     struct {
         char const* name;
         double radius; ///< of the vertex farthest from the origin
+        // clang-format off
     } const cases[] = {
         {"framecube",          10.5},
         {"frametetrahedron",   10.5},
-        {"frameoctoball",      6.5 },
+        {"frameoctoball",      6.5},
         {"spikeydodecahedron", 10.0},
-        {"hollowsoccerball",   4   },
-        {"frameicosahedron",   2   }
+        {"hollowsoccerball",   4},
+        {"frameicosahedron",   2},
     };
+    // clang-format on
     for (auto const& [name, radius] : cases) {
         SCOPED_TRACE(name);
         ASSERT_EQ(read(name).objects.size(), 1U);

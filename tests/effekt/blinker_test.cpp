@@ -63,21 +63,23 @@ TEST_F(Blinker, FiresFromTheStartOfAWindowUpToButNotIncludingItsEnd) {
         bool fires;
     };
     float const inf = INFINITY;
+    // clang-format off
     Row const rows[] = {
-        {"before",                2, 1,                    1.5f,               false                         },
-        {"just before the start", 2, 1,                    std::nextafter(2.f, 0.f),                           false},
-        {"at the start",                       2,           1,        2,               true                                    },
-        {"inside",                       2,                 1,              2.5f,               true},
-        {"just before the end",                       2,    1, std::nextafter(3.f,               0.f),                                    true},
-        {"at the end",                   2,                    1,                             3,                            false  },
-        {"after",                  2,                   1,                                 4,      false              },
-        {"no length",                  2,                   0,                             2,                        false                    },
-        {"no length, at nought",                  0,                   0,                  0,false},
-        {"negative length",                  2,                   -1,                       2,                             false                                                     },
-        {"a hair before nought",                  0,                   1,                  -1e-6f,false},
-        {"negative start",                  -1,                   1.5f,                        0,                                  true                                                                                              },
-        {"without end",                   2,                    inf,                            1e9f,true},
+        {"before",                2,  1,    1.5f,                                   false},
+        {"just before the start", 2,  1,    std::nextafter(2.f, 0.f),               false},
+        {"at the start",          2,  1,    2,                                      true},
+        {"inside",                2,  1,    2.5f,                                   true},
+        {"just before the end",   2,  1,    std::nextafter(3.f, 0.f),               true},
+        {"at the end",            2,  1,    3,                                      false},
+        {"after",                 2,  1,    4,                                      false},
+        {"no length",             2,  0,    2,                                      false},
+        {"no length, at nought",  0,  0,    0,                                      false},
+        {"negative length",       2,  -1,   2,                                      false},
+        {"a hair before nought",  0,  1,    -1e-6f,                                 false},
+        {"negative start",        -1, 1.5f, 0,                                      true},
+        {"without end",           2,  inf,  1e9f,                                   true},
     };
+    // clang-format on
     for (Row const& row : rows) {
         SCOPED_TRACE(row.what);
         effect::Blinker one;

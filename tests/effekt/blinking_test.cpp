@@ -50,12 +50,7 @@ TEST_P(Blinking, ContrastsBlackWithWhiteAndEveryOtherLevelWithBlack) {
         int level;
         int contrast;
     };
-    for (Row const& row : {
-             Row{0,  1},
-             Row{1,  0},
-             Row{5,  0},
-             Row{-1, 0}
-    }) {
+    for (Row const& row : {Row{0, 1}, Row{1, 0}, Row{5, 0}, Row{-1, 0}}) {
         SCOPED_TRACE(testing::Message() << "level " << row.level);
         Reacting const made = Make();
         made.blinker->SetColor(row.level);
@@ -70,12 +65,14 @@ TEST_P(Blinking, SwapsItsColoursByInversionOrStrobeButNotByBoth) {
         bool flash; ///< the strobe's count is even and not 0
         bool swapped;
     };
+    // clang-format off
     constexpr Row rows[] = {
         {false, false, false},
-        {false, true,  true },
-        {true,  false, true },
-        {true,  true,  false}
+        {false, true,  true},
+        {true,  false, true},
+        {true,  true,  false},
     };
+    // clang-format on
     for (int const level : {0, 1, 5}) {
         for (bool const inverted : {false, true}) {
             Reacting const made = Make();
@@ -103,14 +100,16 @@ TEST_P(Blinking, StrobesAsManyFramesAsAskedEachFollowedByANormalOne) {
         int flashes;
         std::vector<int> levels; ///< of the main colour, from the frame after the event
     };
+    // clang-format off
     Row const rows[] = {
-        {0,  {1, 1, 1, 1}            },
-        {1,  {0, 1, 1, 1}            },
-        {2,  {0, 1, 0, 1, 1, 1}      },
+        {0,  {1, 1, 1, 1}},
+        {1,  {0, 1, 1, 1}},
+        {2,  {0, 1, 0, 1, 1, 1}},
         {3,  {0, 1, 0, 1, 0, 1, 1, 1}},
-        {-1, {1, 1, 1, 1}            },
-        {-9, {1, 1, 1, 1}            },
+        {-1, {1, 1, 1, 1}},
+        {-9, {1, 1, 1, 1}},
     };
+    // clang-format on
     for (Row const& row : rows) {
         SCOPED_TRACE(testing::Message() << row.flashes << " flashes");
         Reacting const made = Make();

@@ -87,14 +87,8 @@ TEST_F(BrokenModel, AsksASetForSixComponentsOfEveryPieceInOrder) {
     CountingSet set;
     model->ResetValues(&set);
     EXPECT_THAT(set.asked, ElementsAre(0, 1, 2, 3, 4, 5, 0, 1, 2, 3, 4, 5));
-    pieces[0] = {
-        {1, 2, 3},
-        {4, 5, 6}
-    };
-    pieces[1] = {
-        {7,  8,  9 },
-        {10, 11, 12}
-    };
+    pieces[0] = {{1, 2, 3}, {4, 5, 6}};
+    pieces[1] = {{7, 8, 9}, {10, 11, 12}};
     model->Blink(Type::Break, 1);
     model->UpdateLogic(state_at(0));
     EXPECT_EQ(DrawnAt(2), Apart(2));

@@ -70,22 +70,24 @@ TEST(FftVisualizer, AgreesWithTheTransformByItsDefinition) {
         char const* what;
         std::function<int(std::size_t)> sample;
     };
+    // clang-format off
     Row const rows[] = {
-        {"noise",            noise    },
-        {"more noise",       noise    },
-        {"a sine on bin 1",  sine(1,    127)},
-        {"a sine on bin 37",                  sine(37,          100)},
-        {"a sine between bins",              sine(12.5,              127)},
-        {"the highest sine",sine(255,127)},
-        {"an impulse", [](std::size_t i) { return i == 0 ? 127 : 0; }      },
-        {"a late impulse",                  [](std::size_t i) { return i == 511 ? -128 : 0; }               },
-        {"an impulse in between",                  [](std::size_t i) { return i == 200 ? 1 : 0; }     },
-        {"all at most",                  [](std::size_t) { return 127; }},
-        {"all at least",                  [](std::size_t) { return -128; }         },
-        {"from end to end",                  [](std::size_t i) { return i % 2 == 0 ? 127 : -128; }                        },
-        {"a step",                  [](std::size_t i) { return i < 256 ? 127 : -128; } },
-        {"a ramp",                  [](std::size_t i) { return static_cast<int>(i / 2) - 128; }},
+        {"noise",                 noise},
+        {"more noise",            noise},
+        {"a sine on bin 1",       sine(1,    127)},
+        {"a sine on bin 37",      sine(37,          100)},
+        {"a sine between bins",   sine(12.5,              127)},
+        {"the highest sine",      sine(255,127)},
+        {"an impulse",            [](std::size_t i) { return i == 0 ? 127 : 0; }},
+        {"a late impulse",        [](std::size_t i) { return i == 511 ? -128 : 0; }},
+        {"an impulse in between", [](std::size_t i) { return i == 200 ? 1 : 0; }},
+        {"all at most",           [](std::size_t) { return 127; }},
+        {"all at least",          [](std::size_t) { return -128; }},
+        {"from end to end",       [](std::size_t i) { return i % 2 == 0 ? 127 : -128; }},
+        {"a step",                [](std::size_t i) { return i < 256 ? 127 : -128; }},
+        {"a ramp",                [](std::size_t i) { return static_cast<int>(i / 2) - 128; }},
     };
+    // clang-format on
     kore::FftVisualizer fft;
     for (Row const& row : rows) {
         SCOPED_TRACE(row.what);
@@ -135,17 +137,19 @@ TEST(FftVisualizer, ReadsTheFirstBytesOfALongerBlockOnly) {
 }
 
 TEST(FftVisualizer, ReversesNineBits) {
+    // clang-format off
     std::pair<unsigned int, unsigned int> const cases[] = {
-        {0,   0  },
+        {0,   0},
         {1,   256},
-        {256, 1  },
+        {256, 1},
         {511, 511},
         {2,   128},
         {3,   384},
-        {16,  16 },
-        {512, 0  },
+        {16,  16},
+        {512, 0},
         {513, 256},
     };
+    // clang-format on
     for (auto const& [i, reversed] : cases) EXPECT_EQ(kore::FftVisualizer::ReverseBits(i), reversed) << i;
     for (unsigned int i = 0; i < points; ++i) {
         ASSERT_EQ(kore::FftVisualizer::ReverseBits(kore::FftVisualizer::ReverseBits(i)), i);

@@ -42,18 +42,20 @@ TEST_F(Flash, ClearsToBlackUntilItsFirstBeat) {
 TEST_F(Flash, LightsUpOnItsBeatsAndFadesInAStraightLine) {
     flash.AddFlash(4);
     flash.AddFlash(8);
+    // clang-format off
     Frame const frames[] = {
-        {"before",                 0,     3,  "0"    },
-        {"the beat",               2,     4,  "1"    },
-        {"still that beat",        2.5f,  4,  "0.75" },
-        {"half",                   3,     5,  "0.5"  },
+        {"before",                 0,     3,  "0"},
+        {"the beat",               2,     4,  "1"},
+        {"still that beat",        2.5f,  4,  "0.75"},
+        {"half",                   3,     5,  "0.5"},
         {"nearly out",             3.75f, 6,  "0.125"},
-        {"out",                    4,     7,  "0"    },
-        {"and out it stays",       5,     7,  "0"    },
-        {"the next beat",          5.5f,  8,  "1"    },
-        {"fading",                 6.5f,  9,  "0.5"  },
-        {"a frame beyond the end", 99,    10, "0"    },
+        {"out",                    4,     7,  "0"},
+        {"and out it stays",       5,     7,  "0"},
+        {"the next beat",          5.5f,  8,  "1"},
+        {"fading",                 6.5f,  9,  "0.5"},
+        {"a frame beyond the end", 99,    10, "0"},
     };
+    // clang-format on
     for (Frame const& frame : frames) {
         SCOPED_TRACE(frame.what);
         EXPECT_EQ(ClearAt(frame.t, frame.beat), Grey(frame.level));

@@ -95,13 +95,15 @@ struct Moment {
 TEST_F(FlashBackground, FlipsFromFlatToTurnedInHalfASecond) {
     wall.Blink(Type::Flip, 0);
     EXPECT_EQ(Turn(), turn(1)); // until the next update
+    // clang-format off
     Moment const moments[] = {
-        {"the first frame takes the start", 3,      0   },
+        {"the first frame takes the start", 3,      0},
         {"a quarter",                       3.125f, 0.25},
-        {"half",                            3.25f,  0.5 },
-        {"the end",                         3.5f,   1   },
-        {"over",                            4,      1   },
+        {"half",                            3.25f,  0.5},
+        {"the end",                         3.5f,   1},
+        {"over",                            4,      1},
     };
+    // clang-format on
     for (Moment const& moment : moments) {
         SCOPED_TRACE(moment.what);
         EXPECT_EQ(TurnAt(moment.t), turn(moment.level));
@@ -110,13 +112,15 @@ TEST_F(FlashBackground, FlipsFromFlatToTurnedInHalfASecond) {
 
 TEST_F(FlashBackground, FlipsBackFromTurnedToFlat) {
     wall.Blink(Type::Flip, 1);
+    // clang-format off
     Moment const moments[] = {
-        {"start",     3,      1   },
+        {"start",     3,      1},
         {"a quarter", 3.125f, 0.75},
-        {"half",      3.25f,  0.5 },
-        {"the end",   3.5f,   0   },
-        {"over",      4,      0   },
+        {"half",      3.25f,  0.5},
+        {"the end",   3.5f,   0},
+        {"over",      4,      0},
     };
+    // clang-format on
     for (Moment const& moment : moments) {
         SCOPED_TRACE(moment.what);
         EXPECT_EQ(TurnAt(moment.t), turn(moment.level));

@@ -81,20 +81,22 @@ struct Frame {
 };
 
 TEST_F(GyroFuck, BreathesInCounterPhaseAndSwapsOnEveryEvenBeat) {
+    // clang-format off
     Frame const frames[] = {
-        {"before any beat",                0,      -1, false, 10,     40    },
-        {"breathing all the same",         0.25f,  -1, false, 17.5f,  32.5f },
-        {"an odd beat changes nothing",    0.5f,   1,  true,  25,     25    },
-        {"an even beat swaps",             1,      2,  true,  40,     10    },
-        {"breathing",                      1.25f,  2,  false, 32.5f,  17.5f },
-        {"an odd beat changes nothing",    1.5f,   3,  true,  25,     25    },
-        {"the end of a breath",            2,      3,  false, 10,     40    },
-        {"and beyond it",                  2.5f,   3,  false, -5,     55    },
-        {"the next even beat swaps back",  3,      4,  true,  10,     40    },
+        {"before any beat",                0,      -1, false, 10,     40},
+        {"breathing all the same",         0.25f,  -1, false, 17.5f,  32.5f},
+        {"an odd beat changes nothing",    0.5f,   1,  true,  25,     25},
+        {"an even beat swaps",             1,      2,  true,  40,     10},
+        {"breathing",                      1.25f,  2,  false, 32.5f,  17.5f},
+        {"an odd beat changes nothing",    1.5f,   3,  true,  25,     25},
+        {"the end of a breath",            2,      3,  false, 10,     40},
+        {"and beyond it",                  2.5f,   3,  false, -5,     55},
+        {"the next even beat swaps back",  3,      4,  true,  10,     40},
         {"breathing",                      3.125f, 4,  false, 13.75f, 36.25f},
-        {"nought is an even beat",         4,      0,  true,  40,     10    },
-        {"a beat counts on its new frame", 4.5f,   0,  false, 25,     25    },
+        {"nought is an even beat",         4,      0,  true,  40,     10},
+        {"a beat counts on its new frame", 4.5f,   0,  false, 25,     25},
     };
+    // clang-format on
     for (Frame const& frame : frames) {
         SCOPED_TRACE(testing::Message() << frame.what << ", at " << frame.t << " s");
         gyro->UpdateLogic(state_at(frame.t, frame.beat, frame.new_beat));

@@ -75,18 +75,20 @@ TEST(PlasmaTexture, ColoursTheSumOfTwoRingsForEveryPixel) {
         int height;
         unsigned int t;
     };
+    // clang-format off
     Row const rows[] = {
-        {"start",                 64,  64,  0         },
-        {"inside the first step", 64,  64,  15        },
-        {"the next step",         64,  64,  16        },
-        {"a second",              64,  64,  500       },
-        {"the scene's end",       64,  64,  29090     },
-        {"the show's end",        64,  64,  87272     },
-        {"wider than high",       256, 64,  12345     },
-        {"higher than wide",      64,  128, 54321     },
-        {"the largest",           256, 256, 31415     },
+        {"start",                 64,  64,  0},
+        {"inside the first step", 64,  64,  15},
+        {"the next step",         64,  64,  16},
+        {"a second",              64,  64,  500},
+        {"the scene's end",       64,  64,  29090},
+        {"the show's end",        64,  64,  87272},
+        {"wider than high",       256, 64,  12345},
+        {"higher than wide",      64,  128, 54321},
+        {"the largest",           256, 256, 31415},
         {"the end of counting",   64,  64,  4294967295},
     };
+    // clang-format on
     for (Row const& row : rows) {
         SCOPED_TRACE(row.what);
         effect::PlasmaTexture texture;

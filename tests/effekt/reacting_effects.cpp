@@ -33,18 +33,20 @@ Reacting wire(Models const& models) {
 
 std::vector<Kind> const& all_kinds() {
     // name             made by                                                            counts down, starts
+    // clang-format off
     static std::vector<Kind> const kinds = {
-        {"SimpleModel",     [](Models const& m) { return made<effect::SimpleModel>(m, "thing", ""); }, true,  true },
-        {"FlashBackground", [](Models const&) { return made<effect::FlashBackground>(); },             true,  true },
+        {"SimpleModel",     [](Models const& m) { return made<effect::SimpleModel>(m, "thing", ""); }, true,  true},
+        {"FlashBackground", [](Models const&) { return made<effect::FlashBackground>(); },             true,  true},
         {"ModelSwapper",    [](Models const&) { return made<effect::ModelSwapper>("thing"); },         true,  false},
-        {"BrokenModel",     [](Models const& m) { return made<effect::BrokenModel>(m, "thing", ""); }, true,  true },
-        {"TextureMountain", [](Models const&) { return made<effect::TextureMountain>(); },             true,  true },
-        {"PulseWire",       wire,                                                                      true,  true },
+        {"BrokenModel",     [](Models const& m) { return made<effect::BrokenModel>(m, "thing", ""); }, true,  true},
+        {"TextureMountain", [](Models const&) { return made<effect::TextureMountain>(); },             true,  true},
+        {"PulseWire",       wire,                                                                      true,  true},
         {"SpikeBall",       [](Models const&) { return made<effect::SpikeBall>(); },                   false, false},
-        {"GyroFuck",        [](Models const& m) { return made<effect::GyroFuck>(m); },                 true,  true },
-        {"TorusFountain",   [](Models const& m) { return made<effect::TorusFountain>(m); },            true,  true },
-        {"ShowModel",       [](Models const& m) { return made<effect::ShowModel>(m, "thing", ""); },   true,  true },
+        {"GyroFuck",        [](Models const& m) { return made<effect::GyroFuck>(m); },                 true,  true},
+        {"TorusFountain",   [](Models const& m) { return made<effect::TorusFountain>(m); },            true,  true},
+        {"ShowModel",       [](Models const& m) { return made<effect::ShowModel>(m, "thing", ""); },   true,  true},
     };
+    // clang-format on
     return kinds;
 }
 

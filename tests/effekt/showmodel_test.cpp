@@ -68,20 +68,20 @@ void expect_moments(effect::ShowModel& model, std::initializer_list<Moment> mome
 TEST_F(ShowModel, SwingsInStandsAndSwingsAway) {
     expect_moments(*Timed(),
                    {
-                       {"upright before its start", 0,       "0",    false},
-                       {"just before its start",    1.999f,  "0",    false},
-                       {"at its start",             2,       "120",  false},
-                       {"swinging in",              2.125f,  "90",   false},
-                       {"half in",                  2.25f,   "60",   false},
-                       {"nearly in",                2.375f,  "30",   false},
-                       {"in",                       2.5f,    "0",    false},
-                       {"standing",                 4,       "0",    false},
-                       {"beginning to leave",       5.5f,    "0",    true },
-                       {"leaving",                  5.625f,  "-30",  true },
-                       {"half away",                5.75f,   "-60",  true },
-                       {"away",                     6,       "-120", true },
-                       {"and staying away",         1000000, "-120", true },
-    },
+                       {"upright before its start", 0, "0", false},
+                       {"just before its start", 1.999f, "0", false},
+                       {"at its start", 2, "120", false},
+                       {"swinging in", 2.125f, "90", false},
+                       {"half in", 2.25f, "60", false},
+                       {"nearly in", 2.375f, "30", false},
+                       {"in", 2.5f, "0", false},
+                       {"standing", 4, "0", false},
+                       {"beginning to leave", 5.5f, "0", true},
+                       {"leaving", 5.625f, "-30", true},
+                       {"half away", 5.75f, "-60", true},
+                       {"away", 6, "-120", true},
+                       {"and staying away", 1000000, "-120", true},
+                   },
                    Swung);
 }
 
@@ -92,14 +92,14 @@ TEST_F(ShowModel, HasAtFirstAShowOfFiveSecondsAndSwingsOfOne) {
     EXPECT_EQ(Drawn(model), Swung("0", false));
     expect_moments(model,
                    {
-                       {"at its start",       0,    "120",  false},
-                       {"half in",            0.5f, "60",   false},
-                       {"in",                 1,    "0",    false},
-                       {"still standing",     5.9f, "0",    false},
-                       {"beginning to leave", 6,    "0",    true },
-                       {"half away",          6.5f, "-60",  true },
-                       {"away",               7,    "-120", true },
-    },
+                       {"at its start", 0, "120", false},
+                       {"half in", 0.5f, "60", false},
+                       {"in", 1, "0", false},
+                       {"still standing", 5.9f, "0", false},
+                       {"beginning to leave", 6, "0", true},
+                       {"half away", 6.5f, "-60", true},
+                       {"away", 7, "-120", true},
+                   },
                    Swung);
 }
 
@@ -122,21 +122,16 @@ TEST_F(ShowModel, FollowsItsFormulaOnEveryFrame) {
 TEST_F(ShowModel, NeverComesBackToTheFirstHinge) {
     auto const model = Timed();
     model->UpdateLogic(state_at(7));
-    expect_moments(*model,
-                   {
-                       {"played again", 2, "120", true},
-                       {"standing",     3, "0",   true}
-    },
-                   Swung);
+    expect_moments(*model, {{"played again", 2, "120", true}, {"standing", 3, "0", true}}, Swung);
 }
 
 TEST_F(ShowModel, JumpsAwayWithoutASwing) {
     expect_moments(*Timed(2, 0, 3),
                    {
-                       {"at its start",   2,    "0",    false},
-                       {"standing",       4.9f, "0",    false},
-                       {"after its show", 5.1f, "-120", true },
-    },
+                       {"at its start", 2, "0", false},
+                       {"standing", 4.9f, "0", false},
+                       {"after its show", 5.1f, "-120", true},
+                   },
                    Swung);
 }
 
@@ -206,9 +201,9 @@ TEST_F(ShowModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
         char const* expression;
     };
     Row const rows[] = {
-        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"          },
-        {"none",  "",            25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
-        {"thing", "other.asc",   27, R"(models->ModelByName(model_name, myModel))"   },
+        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"},
+        {"none", "", 25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
+        {"thing", "other.asc", 27, R"(models->ModelByName(model_name, myModel))"},
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(row.expression);

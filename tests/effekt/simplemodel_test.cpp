@@ -69,11 +69,11 @@ TEST_F(SimpleModel, DrawsFacesAndLinesByTheirFlags) {
     };
     Row const rows[] = {
         {1, 1, std::string(faces) + lines},
-        {1, 0, faces                     },
-        {0, 1, lines                     },
-        {0, 0, ""                        },
-        {2, 1, lines                     }, // any value but 1 switches off
-        {1, 2, faces                     },
+        {1, 0, faces},
+        {0, 1, lines},
+        {0, 0, ""},
+        {2, 1, lines}, // any value but 1 switches off
+        {1, 2, faces},
     };
     effect::SimpleModel model(models, "thing", "");
     NameLists(*models, "thing");
@@ -145,9 +145,9 @@ TEST_F(SimpleModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
         char const* expression;
     };
     Row const rows[] = {
-        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"          },
-        {"none",  "",            25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
-        {"thing", "other.asc",   27, R"(models->ModelByName(model_name, myModel))"   },
+        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"},
+        {"none", "", 25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
+        {"thing", "other.asc", 27, R"(models->ModelByName(model_name, myModel))"},
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(row.expression);

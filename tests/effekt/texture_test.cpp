@@ -33,15 +33,17 @@ TEST_F(Texture, RoundsItsSidesToOneOfThreeSizes) {
         int w, h;
         int width, height;
     };
+    // clang-format off
     Row const rows[] = {
-        {64,  64,  64,  64 },
+        {64,  64,  64,  64},
         {100, 300, 128, 256},
         {65,  128, 128, 128},
-        {129, 64,  256, 64 },
-        {0,   -1,  64,  64 },
+        {129, 64,  256, 64},
+        {0,   -1,  64,  64},
         {1,   256, 64,  256},
         {512, 129, 256, 256},
     };
+    // clang-format on
     for (Row const& row : rows) {
         SCOPED_TRACE(testing::Message() << row.w << " x " << row.h);
         EXPECT_TRUE(texture.Init(row.w, row.h));
@@ -79,11 +81,11 @@ TEST_F(Texture, UploadsItselfWithEachOfTheFilters) {
         {effect::filter_nearest,
          {bind, "TexParameterf(TEXTURE_MAG_FILTER,NEAREST)", "TexParameterf(TEXTURE_MIN_FILTER,NEAREST)", image}},
         {effect::filter_linear,
-         {bind, "TexParameterf(TEXTURE_MAG_FILTER,LINEAR)", "TexParameterf(TEXTURE_MIN_FILTER,LINEAR)", image}  },
+         {bind, "TexParameterf(TEXTURE_MAG_FILTER,LINEAR)", "TexParameterf(TEXTURE_MIN_FILTER,LINEAR)", image}},
         {effect::filter_mipmap,
          {bind, "TexParameterf(TEXTURE_MAG_FILTER,LINEAR)", "TexParameteri(TEXTURE_MIN_FILTER,LINEAR_MIPMAP_NEAREST)",
-          mipmaps}                                                                                              },
-        {static_cast<effect::texture_filter>(3), {bind, image}                                                  },
+          mipmaps}},
+        {static_cast<effect::texture_filter>(3), {bind, image}},
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(testing::Message() << "filter " << row.filter);

@@ -65,15 +65,17 @@ protected:
 };
 
 TEST_F(TorusFountain, StepsSmoothlyWithoutClamping) {
+    // clang-format off
     std::pair<float, float> const cases[] = {
-        {0.f,   0.f     },
-        {0.5f,  0.5f    },
-        {1.f,   1.f     },
+        {0.f,   0.f},
+        {0.5f,  0.5f},
+        {1.f,   1.f},
         {0.25f, 0.15625f},
-        {1.5f,  0.f     },
-        {2.f,   -4.f    },
-        {-1.f,  5.f     }
+        {1.5f,  0.f},
+        {2.f,   -4.f},
+        {-1.f,  5.f},
     };
+    // clang-format on
     for (auto const& [x, y] : cases) EXPECT_FLOAT_EQ(Fountain::CubicSmoothStep(x), y) << x;
 }
 
@@ -82,11 +84,7 @@ TEST_F(TorusFountain, GoesAwayFromTheSecondPoint) {
         float x;
         float y;
     };
-    for (Row const& row : {
-             Row{0,    0  },
-             Row{0.5f, 60 },
-             Row{1,    120}
-    }) {
+    for (Row const& row : {Row{0, 0}, Row{0.5f, 60}, Row{1, 120}}) {
         kore::Vector3<float> const p = Fountain::Linear({0, 0, 0}, {0, -120, 0}, row.x);
         EXPECT_FLOAT_EQ(p.x, 0);
         EXPECT_FLOAT_EQ(p.y, row.y);

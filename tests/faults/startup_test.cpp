@@ -38,31 +38,33 @@ struct Row {
     char const* first; ///< of several models: the one that is missed first
 };
 
+// clang-format off
 constexpr Row rows[] = {
-    {"HARD-title.asc",           Need::Ordinary, ""        },
-    {"QUILLONx-title.asc",       Need::Ordinary, ""        },
-    {"SILENCE-title.asc",        Need::Ordinary, ""        },
-    {"butt_silhouette.asc",      Need::Ordinary, ""        },
-    {"credits.asc",              Need::Ordinary, ""        },
-    {"donut2.asc",               Need::None,     ""        },
-    {"framecube.asc",            Need::Pieces,   ""        },
-    {"frameicosahedron.asc",     Need::Ordinary, ""        },
-    {"frameoctoball.asc",        Need::Pieces,   ""        },
-    {"frametetrahedron.asc",     Need::Pieces,   ""        },
-    {"glass.asc",                Need::Pieces,   ""        },
+    {"HARD-title.asc",           Need::Ordinary, ""},
+    {"QUILLONx-title.asc",       Need::Ordinary, ""},
+    {"SILENCE-title.asc",        Need::Ordinary, ""},
+    {"butt_silhouette.asc",      Need::Ordinary, ""},
+    {"credits.asc",              Need::Ordinary, ""},
+    {"donut2.asc",               Need::None,     ""},
+    {"framecube.asc",            Need::Pieces,   ""},
+    {"frameicosahedron.asc",     Need::Ordinary, ""},
+    {"frameoctoball.asc",        Need::Pieces,   ""},
+    {"frametetrahedron.asc",     Need::Pieces,   ""},
+    {"glass.asc",                Need::Pieces,   ""},
     {"greetings.asc",            Need::Word,     "Arbalest"},
-    {"gun_silhouette.asc",       Need::Ordinary, ""        },
-    {"gungirl_silhouette.asc",   Need::Ordinary, ""        },
-    {"hollowsoccerball.asc",     Need::Ordinary, ""        },
-    {"infinity.asc",             Need::Pieces,   ""        },
-    {"maltanristi.asc",          Need::Pieces,   ""        },
-    {"side2_silhouette.asc",     Need::Ordinary, ""        },
-    {"sideview_silhouette.asc",  Need::Ordinary, ""        },
-    {"spikeydodecahedron.asc",   Need::Pieces,   ""        },
-    {"tentacles_silhouette.asc", Need::Ordinary, ""        },
-    {"torus2.asc",               Need::None,     ""        },
-    {"weknow.asc",               Need::Word,     "We"      },
+    {"gun_silhouette.asc",       Need::Ordinary, ""},
+    {"gungirl_silhouette.asc",   Need::Ordinary, ""},
+    {"hollowsoccerball.asc",     Need::Ordinary, ""},
+    {"infinity.asc",             Need::Pieces,   ""},
+    {"maltanristi.asc",          Need::Pieces,   ""},
+    {"side2_silhouette.asc",     Need::Ordinary, ""},
+    {"sideview_silhouette.asc",  Need::Ordinary, ""},
+    {"spikeydodecahedron.asc",   Need::Pieces,   ""},
+    {"tentacles_silhouette.asc", Need::Ordinary, ""},
+    {"torus2.asc",               Need::None,     ""},
+    {"weknow.asc",               Need::Word,     "We"},
 };
+// clang-format on
 
 /// A copy of the show's meshes; one of them at a time is replaced.
 class StartUp : public testing::Test {
@@ -234,7 +236,7 @@ TEST_F(StartUp, MissesAModelWhereAFileEndsBetweenTwo) {
         char const* file;
         char const* lost; ///< the second model
     } const cuts[] = {
-        {"weknow.asc",    "Know"      },
+        {"weknow.asc", "Know"},
         {"greetings.asc", "Pixelherds"},
     };
     for (auto const& cut : cuts) {

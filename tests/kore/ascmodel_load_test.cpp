@@ -49,41 +49,43 @@ struct Row {
 
 constexpr char const* vertex_count = "Bad file format, vertex count mismatch.";
 
+// clang-format off
 constexpr Row rows[] = {
-    {"good.asc",                           0,  1, ""                                                            },
-    {"two-objects.asc",                    1,  2, ""                                                            },
-    {"no-final-newline.asc",               0,  1, ""                                                            },
-    {"unfinished-blank-line.asc",          0,  1, ""                                                            },
-    {"two-trailing-blank-lines.asc",       0,  1, ""                                                            },
-    {"line-feeds-only.asc",                0,  1, ""                                                            },
-    {"second-object-without-name.asc",     1,  2, ""                                                            },
-    {"embedded-nul.asc",                   0,  1, ""                                                            },
-    {"face-index-beyond-vertices.asc",     0,  1, ""                                                            },
-    {"blank-line-after-header.asc",        -1, 0, ""                                                            },
-    {"blank-line-in-vertices.asc",         -1, 0, ""                                                            },
-    {"blank-line-before-first-object.asc", -1, 0, ""                                                            },
-    {"one-trailing-blank-line.asc",        -1, 1, vertex_count                                                  },
-    {"text-after-blank-line.asc",          -1, 1, vertex_count                                                  },
-    {"vertex-count-too-low.asc",           -1, 0, vertex_count                                                  },
-    {"vertex-count-too-high.asc",          -1, 0, vertex_count                                                  },
-    {"no-vertices.asc",                    -1, 0, vertex_count                                                  },
-    {"empty.asc",                          -1, 0, vertex_count                                                  },
-    {"not-a-mesh.asc",                     -1, 0, vertex_count                                                  },
-    {"bytes-not-text.asc",                 -1, 0, vertex_count                                                  },
+    {"good.asc",                           0,  1, ""},
+    {"two-objects.asc",                    1,  2, ""},
+    {"no-final-newline.asc",               0,  1, ""},
+    {"unfinished-blank-line.asc",          0,  1, ""},
+    {"two-trailing-blank-lines.asc",       0,  1, ""},
+    {"line-feeds-only.asc",                0,  1, ""},
+    {"second-object-without-name.asc",     1,  2, ""},
+    {"embedded-nul.asc",                   0,  1, ""},
+    {"face-index-beyond-vertices.asc",     0,  1, ""},
+    {"blank-line-after-header.asc",        -1, 0, ""},
+    {"blank-line-in-vertices.asc",         -1, 0, ""},
+    {"blank-line-before-first-object.asc", -1, 0, ""},
+    {"one-trailing-blank-line.asc",        -1, 1, vertex_count},
+    {"text-after-blank-line.asc",          -1, 1, vertex_count},
+    {"vertex-count-too-low.asc",           -1, 0, vertex_count},
+    {"vertex-count-too-high.asc",          -1, 0, vertex_count},
+    {"no-vertices.asc",                    -1, 0, vertex_count},
+    {"empty.asc",                          -1, 0, vertex_count},
+    {"not-a-mesh.asc",                     -1, 0, vertex_count},
+    {"bytes-not-text.asc",                 -1, 0, vertex_count},
     {"face-count-too-low.asc",             -1, 0, "Bad file format, face count mismatch. Reported: 3 counted: 4"},
     {"face-count-too-high.asc",            -1, 0, "Bad file format, face count mismatch. Reported: 5 counted: 4"},
     {"no-faces.asc",                       -1, 0, "Bad file format, face count mismatch. Reported: 4 counted: 0"},
     {"second-object-broken.asc",           -1, 1, "Bad file format, face count mismatch. Reported: 9 counted: 4"},
-    {"header-counts-zero.asc",             -1, 0, "Bad file format"                                             },
-    {"header-counts-negative.asc",         -1, 0, "Bad file format"                                             },
-    {"header-counts-missing.asc",          -1, 0, "Bad file format"                                             },
-    {"header-counts-overflow.asc",         -1, 0, "Bad file format"                                             },
-    {"header-counts-wrap.asc",             -1, 0, "Bad file format"                                             },
-    {"face-index-overflow.asc",            -1, 0, "Bad file format, face 0 has no vertex 9223372036854775807."  },
-    {"face-index-wrap.asc",                -1, 0, "Bad file format, face 0 has no vertex 4294967297."           },
-    {"face-index-negative.asc",            -1, 0, "Bad file format, face 0 has no vertex -1."                   },
-    {"face-index-too-large.asc",           -1, 0, "Bad file format, face 0 has no vertex 100000."               },
+    {"header-counts-zero.asc",             -1, 0, "Bad file format"},
+    {"header-counts-negative.asc",         -1, 0, "Bad file format"},
+    {"header-counts-missing.asc",          -1, 0, "Bad file format"},
+    {"header-counts-overflow.asc",         -1, 0, "Bad file format"},
+    {"header-counts-wrap.asc",             -1, 0, "Bad file format"},
+    {"face-index-overflow.asc",            -1, 0, "Bad file format, face 0 has no vertex 9223372036854775807."},
+    {"face-index-wrap.asc",                -1, 0, "Bad file format, face 0 has no vertex 4294967297."},
+    {"face-index-negative.asc",            -1, 0, "Bad file format, face 0 has no vertex -1."},
+    {"face-index-too-large.asc",           -1, 0, "Bad file format, face 0 has no vertex 100000."},
 };
+// clang-format on
 
 TEST_F(Loader, AnswersEveryKindOfFile) {
     for (Row const& row : rows) {
@@ -189,15 +191,17 @@ TEST_F(Loader, TakesAsMuchAsItsTablesHoldAndNoMore) {
         bool full;
         int result;
         char const* message;
+        // clang-format off
     } const sizes[] = {
-        {100000, 1,      false, 0,  ""                                                                  },
-        {1,      100000, false, 0,  ""                                                                  },
-        {100001, 1,      false, -1, "Bad file format, more than 100000 vertices."                       },
-        {1,      100001, false, -1, "Bad file format, more than 100000 faces."                          },
-        {1,      10000,  true,  1,  ""                                                                  },
+        {100000, 1,      false, 0,  ""},
+        {1,      100000, false, 0,  ""},
+        {100001, 1,      false, -1, "Bad file format, more than 100000 vertices."},
+        {1,      100001, false, -1, "Bad file format, more than 100000 faces."},
+        {1,      10000,  true,  1,  ""},
         {1,      10001,  true,  -1, "Bad file format, 10001 faces are too many to be stored one by one."},
-        {100001, 1,      true,  -1, "Bad file format, more than 100000 vertices."                       },
+        {100001, 1,      true,  -1, "Bad file format, more than 100000 vertices."},
     };
+    // clang-format on
     support::TempFolder const temp;
     for (auto const& size : sizes) {
         SCOPED_TRACE(testing::Message() << size.vertices << " vertices, " << size.faces << " faces");
@@ -214,8 +218,8 @@ TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
         char const* odd;
         char const* message;
     } const meshes[] = {
-        {100001, 1,      "Vertex 100000:", "Vertex 100000 :", "Bad file format, more than 100000 vertices."},
-        {1,      100001, "Face 100000:",   "Face 100000 :",   "Bad file format, more than 100000 faces."   },
+        {100001, 1, "Vertex 100000:", "Vertex 100000 :", "Bad file format, more than 100000 vertices."},
+        {1, 100001, "Face 100000:", "Face 100000 :", "Bad file format, more than 100000 faces."},
     };
     support::TempFolder const temp;
     for (auto const& mesh : meshes) {
@@ -237,12 +241,12 @@ TEST_F(Loader, ReadsLinesOfAnyLength) {
         std::string text;
         int result;
     } const files[] = {
-        {"a line before the header", long_text + "\r\n" + good,                                                 0                              },
-        {"a name",                   "Named object: \"" + long_text + "\"\r\n" + good.substr(good.find("Tri")), 0                              },
-        {"blanks before a number",   std::string(good).replace(good.find("X:"),                                 2,                               "X:" + blanks), 0},
-        {"digits",                         std::string(good).replace(good.find("X:"),                                                                                                  2,                                                                                                                          "X:" + std::string(1 << 20, '1')), 0},
-        {"a tail after the last face",                         good.substr(0,good.size() - 2) + long_text,0},
-        {"nothing but one line",                          long_text,                                                                        -1                                                                 },
+        {"a line before the header", long_text + "\r\n" + good, 0},
+        {"a name", "Named object: \"" + long_text + "\"\r\n" + good.substr(good.find("Tri")), 0},
+        {"blanks before a number", std::string(good).replace(good.find("X:"), 2, "X:" + blanks), 0},
+        {"digits", std::string(good).replace(good.find("X:"), 2, "X:" + std::string(1 << 20, '1')), 0},
+        {"a tail after the last face", good.substr(0, good.size() - 2) + long_text, 0},
+        {"nothing but one line", long_text, -1},
     };
     support::TempFolder const temp;
     for (auto const& file : files) {

@@ -24,9 +24,7 @@ protected:
 
     /// The wireframe list of one face ABC with these edge flags.
     std::string Wireframe(int ab, int bc, int ca) {
-        int const edges[1][3] = {
-            {ab, bc, ca}
-        };
+        int const edges[1][3] = {{ab, bc, ca}};
         int const index = models.GenList("one", 4, 1, 1, verts, faces, edges);
         EXPECT_EQ(index, static_cast<int>(models.size()) - 1);
         return gl::list_content(models.ModelByIndex(index) + 1);
@@ -72,18 +70,20 @@ TEST_F(AscModel, DrawsTheEdgeCAByTheFlagOfBC) {
     struct {
         int flags[3];
         std::string segments;
+        // clang-format off
     } const rows[] = {
-        {{0, 0, 0},  ""          },
-        {{1, 0, 0},  ab          },
-        {{0, 1, 0},  bc + ca     },
-        {{0, 0, 1},  ""          }, // CA's own flag counts for nothing
-        {{1, 0, 1},  ab          },
+        {{0, 0, 0},  ""},
+        {{1, 0, 0},  ab},
+        {{0, 1, 0},  bc + ca},
+        {{0, 0, 1},  ""},           // CA's own flag counts for nothing
+        {{1, 0, 1},  ab},
         {{1, 1, 0},  ab + bc + ca},
         {{1, 1, 1},  ab + bc + ca},
-        {{2, 1, 0},  bc + ca     }, // neither 0 nor 1: draws nothing
-        {{1, 2, 1},  ab          },
-        {{-1, 0, 0}, ""          },
+        {{2, 1, 0},  bc + ca},      // neither 0 nor 1: draws nothing
+        {{1, 2, 1},  ab},
+        {{-1, 0, 0}, ""},
     };
+    // clang-format on
     for (auto const& row : rows) {
         SCOPED_TRACE(testing::Message() << row.flags[0] << row.flags[1] << row.flags[2]);
         EXPECT_EQ(Wireframe(row.flags[0], row.flags[1], row.flags[2]),

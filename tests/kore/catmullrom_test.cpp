@@ -14,12 +14,14 @@ protected:
     void Fill(int count) {
         for (int i = 0; i < count; ++i) spline.AddSplinePoint(points[i]);
     }
+    // clang-format off
     Vector3<float> const points[4] = {
-        {0,  0,  0  },
-        {8,  4,  0  },
-        {16, -4, 2  },
+        {0,  0,  0},
+        {8,  4,  0},
+        {16, -4, 2},
         {40, 0,  100},
     };
+    // clang-format on
     kore::CatmullRom spline;
 };
 
@@ -65,9 +67,9 @@ TEST_F(CatmullRom, ExtrapolatesOutsideTheRange) {
         float t, u;
         int p[4];
     } const rows[] = {
-        {-0.05f,  -0.2f, {0, 0, 1, 2}}, // truncated towards segment 0
+        {-0.05f, -0.2f, {0, 0, 1, 2}},  // truncated towards segment 0
         {-0.375f, -0.5f, {0, 0, 0, 1}}, // segment -1: its points are clamped one by one
-        {1.125f,  0.5f,  {3, 3, 3, 3}},
+        {1.125f, 0.5f, {3, 3, 3, 3}},
     };
     for (auto const& row : rows) {
         SCOPED_TRACE(row.t);

@@ -67,14 +67,16 @@ TEST_F(Demo, PlaysItsScenesOneAfterAnotherOnTheBeatGrid) {
         int at;
         char const* scene;
         int beat_in_scene;
+        // clang-format off
     } const rows[] = {
-        {0,  "A", 0 },
+        {0,  "A", 0},
         {15, "A", 15},
-        {16, "B", 0 },
+        {16, "B", 0},
         {47, "B", 31},
-        {48, "C", 0 },
-        {55, "C", 7 },
+        {48, "C", 0},
+        {55, "C", 7},
     };
+    // clang-format on
     std::map<std::string, std::shared_ptr<Thing>> const by_name = {
         {"A", things[0]},
         {"B", things[1]},

@@ -29,17 +29,19 @@ TEST(Enabler, IsOpenFromItsStartBeatUpToButNotIncludingStartPlusLength) {
     struct {
         int start, length, at;
         bool open;
+        // clang-format off
     } const rows[] = {
         {4, 8, -1, false},
         {4, 8, 3,  false},
-        {4, 8, 4,  true },
-        {4, 8, 11, true },
+        {4, 8, 4,  true},
+        {4, 8, 11, true},
         {4, 8, 12, false},
         {0, 1, -1, false}, // not before the first beat
-        {0, 1, 0,  true },
+        {0, 1, 0,  true},
         {0, 1, 1,  false},
         {0, 0, 0,  false}, // never
     };
+    // clang-format on
     for (auto const& row : rows) {
         SCOPED_TRACE(testing::Message() << row.length << " beats from " << row.start << ", at " << row.at);
         auto thing = std::make_shared<Thing>();

@@ -51,14 +51,16 @@ TEST(StateData, StartsBeforeTheFirstBeat) {
 TEST(Brightness, WeighsTheSquaredComponentsAndTruncates) {
     struct {
         int r, g, b, brightness;
+        // clang-format off
     } const rows[] = {
         {255, 255, 255, 255}, //
         {255, 0,   0,   125}, // sqrt(0.241) x 255 = 125.2
         {0,   255, 0,   211}, // sqrt(0.691) x 255 = 211.97
-        {0,   0,   255, 66 }, // sqrt(0.068) x 255 = 66.5
-        {0,   0,   0,   0  }, //
-        {128, 64,  32,  82 }, // sqrt(3948.5 + 2830.3 + 69.6) = 82.76
+        {0,   0,   255, 66},  // sqrt(0.068) x 255 = 66.5
+        {0,   0,   0,   0},   //
+        {128, 64,  32,  82},  // sqrt(3948.5 + 2830.3 + 69.6) = 82.76
     };
+    // clang-format on
     for (auto const& row : rows) {
         SCOPED_TRACE(testing::Message() << row.r << ' ' << row.g << ' ' << row.b);
         EXPECT_EQ(RGB_brightness(row.r, row.g, row.b), row.brightness);

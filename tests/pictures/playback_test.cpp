@@ -12,19 +12,21 @@ struct Window {
     Millibeats to;   ///< up to here, where the pictures are compared
 };
 
+// clang-format off
 constexpr Window windows[] = {
     {"intro",    0,     13000},
-    {"gungirl",  0,     1500 },
+    {"gungirl",  0,     1500},
     {"gungirl",  15500, 17000},
-    {"swapper",  3500,  4600 },
-    {"credits",  0,     1300 },
-    {"wire",     0,     1000 },
+    {"swapper",  3500,  4600},
+    {"credits",  0,     1300},
+    {"wire",     0,     1000},
     {"wire",     51500, 52500},
-    {"plasma",   0,     700  },
-    {"fountain", 0,     1000 },
+    {"plasma",   0,     700},
+    {"fountain", 0,     1000},
     {"fountain", 36000, 37000},
-    {"greets",   0,     1500 },
+    {"greets",   0,     1500},
 };
+// clang-format on
 
 std::string pixels(sf::Image const& image) {
     auto const* const first = reinterpret_cast<char const*>(image.getPixelsPtr());

@@ -136,18 +136,18 @@ TEST_F(Recorder, PlaysToTheLastFrameAndNotPastIt) {
 TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     std::ofstream(In("file")) << "in the way";
     std::pair<std::string, std::string> const cases[] = {
-        {"--beats x --out .",                        "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"     },
-        {"--beats 1 --out . --scene Finale",         "no scene is called 'Finale'; there are intro, gungirl, swapper, credits, "
-                                             "wire, plasma, fountain, greets"   },
-        {"--beats 384 --out .",                      "beat 384 lies past the last frame of the show, which has 384 beats"   },
-        {"--beats 383.99 --out .",                   "beat 383.99 lies past the last frame of the show, which has 384 beats"},
-        {"--beats 383.95 --frames --out .",          "beat 383.95 lies past the last frame of the show, which has 384 beats"},
-        {"--beats 1,16 --scene intro --out .",       "beat 16 lies past the last frame of Intro, which has 16 beats"        },
-        {"--beats 1 --out file",                     "cannot make the folder " + In("file") + ": Not a directory"           },
-        {"--beats 1 --out file/deeper",              "cannot make the folder " + In("file/deeper") + ": Not a directory"    },
-        {"--beats 1 --size 16x12 --out /proc",       "cannot write /proc/beat_001.000.png"                                  },
-        {"--beats 1 --size 16x12 --sheet .",         "cannot write " + In("")                                               },
-        {"--beats 1 --size 16x12 --sheet a.unknown", "cannot write " + In("a.unknown")                                      },
+        {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"},
+        {"--beats 1 --out . --scene Finale", "no scene is called 'Finale'; there are intro, gungirl, swapper, credits, "
+                                             "wire, plasma, fountain, greets"},
+        {"--beats 384 --out .", "beat 384 lies past the last frame of the show, which has 384 beats"},
+        {"--beats 383.99 --out .", "beat 383.99 lies past the last frame of the show, which has 384 beats"},
+        {"--beats 383.95 --frames --out .", "beat 383.95 lies past the last frame of the show, which has 384 beats"},
+        {"--beats 1,16 --scene intro --out .", "beat 16 lies past the last frame of Intro, which has 16 beats"},
+        {"--beats 1 --out file", "cannot make the folder " + In("file") + ": Not a directory"},
+        {"--beats 1 --out file/deeper", "cannot make the folder " + In("file/deeper") + ": Not a directory"},
+        {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png"},
+        {"--beats 1 --size 16x12 --sheet .", "cannot write " + In("")},
+        {"--beats 1 --size 16x12 --sheet a.unknown", "cannot write " + In("a.unknown")},
     };
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(arguments);

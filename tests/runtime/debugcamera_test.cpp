@@ -40,14 +40,16 @@ TEST(DebugCamera, MovesThePointLookedAtOrTheEye) {
     struct {
         std::uint64_t bit;
         V by;
+        // clang-format off
     } const rows[] = {
-        {movement_z_out,   {0, 0, 0.1f} },
+        {movement_z_out,   {0, 0, 0.1f}},
         {movement_z_in,    {0, 0, -0.1f}},
-        {movement_y_up,    {0, 0.1f, 0} },
+        {movement_y_up,    {0, 0.1f, 0}},
         {movement_y_down,  {0, -0.1f, 0}},
-        {movement_x_right, {0.1f, 0, 0} },
+        {movement_x_right, {0.1f, 0, 0}},
         {movement_x_left,  {-0.1f, 0, 0}},
     };
+    // clang-format on
     for (auto const& row : rows) {
         SCOPED_TRACE(row.bit);
         DebugCamera view;
@@ -74,14 +76,16 @@ struct Turn {
     V axis;
 };
 
+// clang-format off
 Turn const turns[] = {
-    {movement_rot_x_right, {1, 0, 0} },
+    {movement_rot_x_right, {1, 0, 0}},
     {movement_rot_x_left,  {-1, 0, 0}},
-    {movement_rot_y_up,    {0, 1, 0} },
+    {movement_rot_y_up,    {0, 1, 0}},
     {movement_rot_y_down,  {0, -1, 0}},
-    {movement_rot_z_fw,    {0, 0, 1} },
+    {movement_rot_z_fw,    {0, 0, 1}},
     {movement_rot_z_bw,    {0, 0, -1}},
 };
+// clang-format on
 
 TEST(DebugCamera, TurnsAndWrapsFromOneEndOfTheRangeToTheOther) {
     for (Turn const& turn : turns) {

@@ -133,20 +133,22 @@ struct HeldRow {
     std::uint64_t bit;
 };
 
+// clang-format off
 constexpr HeldRow held_rows[] = {
-    {Key::Z,     movement_z_out      },
-    {Key::A,     movement_z_in       },
-    {Key::Up,    movement_y_up       },
-    {Key::Down,  movement_y_down     },
-    {Key::Right, movement_x_right    },
-    {Key::Left,  movement_x_left     },
-    {Key::S,     movement_rot_y_up   },
-    {Key::F,     movement_rot_y_down },
+    {Key::Z,     movement_z_out},
+    {Key::A,     movement_z_in},
+    {Key::Up,    movement_y_up},
+    {Key::Down,  movement_y_down},
+    {Key::Right, movement_x_right},
+    {Key::Left,  movement_x_left},
+    {Key::S,     movement_rot_y_up},
+    {Key::F,     movement_rot_y_down},
     {Key::E,     movement_rot_x_right},
-    {Key::D,     movement_rot_x_left },
-    {Key::X,     movement_rot_z_fw   },
-    {Key::V,     movement_rot_z_bw   },
+    {Key::D,     movement_rot_x_left},
+    {Key::X,     movement_rot_z_fw},
+    {Key::V,     movement_rot_z_bw},
 };
+// clang-format on
 
 TEST_F(Events, HoldMovementsFromPressToRelease) {
     for (HeldRow const& row : held_rows) {

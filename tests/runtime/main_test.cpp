@@ -95,51 +95,54 @@ std::optional<int> const goes_on = std::nullopt;
 
 TEST_F(CommandLine, AnswersEveryOption) {
     Row const rows[] = {
-        {{},                                                                   goes_on, "",                                                     defaults                                         },
-        {{"-w"},                                                               goes_on, "",                                                     "style 4, 1024x768, limit 60, samples 4"         },
-        {{"-novsync"},                                                         goes_on, "",                                                     "style 8, 1024x768, limit 60, samples 4, no sync"},
-        {{"-fps"},                                                             goes_on, "",                                                     "style 8, 1024x768, limit 60, samples 4, fps"    },
-        {{"-nolimit"},                                                         goes_on, "",                                                     "style 8, 1024x768, limit 0, samples 4"          },
-        {{"-magic"},                                                           goes_on, "",                                                     "style 8, 1024x768, limit 60, samples 4, magic"  },
-        {{"-mute"},                                                            goes_on, "",                                                     "style 8, 1024x768, limit 60, samples 4, mute"   },
-        {{"-nofsaa"},                                                          goes_on, "",                                                     "style 8, 1024x768, limit 60, samples 0"         },
-        {{"-limit", "30"},                                                     goes_on, "",                                                     "style 8, 1024x768, limit 30, samples 4"         },
-        {{"-width", "1000"},                                                   goes_on, "Using resolution 1000x750\n",                          "style 8, 1000x750, limit 60, samples 4"         },
-        {{"-width", "1024"},                                                   goes_on, "Using resolution 1024x768\n",                          defaults                                         },
-        {{"-width", "800"},                                                    goes_on, "Using resolution 800x600\n",                           "style 8, 800x600, limit 60, samples 4"          },
-        {{"-width", "800abc"},                                                 goes_on, "Using resolution 800x600\n",                           "style 8, 800x600, limit 60, samples 4"          },
-        {{"-width", "1"},                                                      goes_on, "Using resolution 1x0\n",                               "style 8, 1x0, limit 60, samples 4"              },
-        {{"-width", "-800"},                                                   goes_on, "Using resolution -800x-600\n",                         "style 8, -800x-600, limit 60, samples 4"        },
-        {{"-width", "wide"},                                                   goes_on, "Using resolution 0x0\n",                               "style 8, 0x0, limit 60, samples 4"              },
-        {{"-width", "-w"},                                                     goes_on, "Using resolution 0x0\n",                               "style 8, 0x0, limit 60, samples 4"              },
-        {{"-limit", "-w", "-w"},                                               goes_on, "",                                                     "style 4, 1024x768, limit 0, samples 4"          },
-        {{"-limit"},                                                           1,       "-limit requires a value\n",                            defaults                                         },
-        {{"-width"},                                                           1,       "-width requires a value\n",                            defaults                                         },
-        {{"-w", "-width"},                                                     1,       "-width requires a value\n",                            "style 4, 1024x768, limit 60, samples 4"         },
-        {{"-h"},                                                               0,       help,                                                   defaults                                         },
-        {{"--help"},                                                           0,       help,                                                   defaults                                         },
-        {{"-w", "-h", "-fps"},                                                 0,       help,                                                   "style 4, 1024x768, limit 60, samples 4"         },
+        {{}, goes_on, "", defaults},
+        {{"-w"}, goes_on, "", "style 4, 1024x768, limit 60, samples 4"},
+        {{"-novsync"}, goes_on, "", "style 8, 1024x768, limit 60, samples 4, no sync"},
+        {{"-fps"}, goes_on, "", "style 8, 1024x768, limit 60, samples 4, fps"},
+        {{"-nolimit"}, goes_on, "", "style 8, 1024x768, limit 0, samples 4"},
+        {{"-magic"}, goes_on, "", "style 8, 1024x768, limit 60, samples 4, magic"},
+        {{"-mute"}, goes_on, "", "style 8, 1024x768, limit 60, samples 4, mute"},
+        {{"-nofsaa"}, goes_on, "", "style 8, 1024x768, limit 60, samples 0"},
+        {{"-limit", "30"}, goes_on, "", "style 8, 1024x768, limit 30, samples 4"},
+        {{"-width", "1000"}, goes_on, "Using resolution 1000x750\n", "style 8, 1000x750, limit 60, samples 4"},
+        {{"-width", "1024"}, goes_on, "Using resolution 1024x768\n", defaults},
+        {{"-width", "800"}, goes_on, "Using resolution 800x600\n", "style 8, 800x600, limit 60, samples 4"},
+        {{"-width", "800abc"}, goes_on, "Using resolution 800x600\n", "style 8, 800x600, limit 60, samples 4"},
+        {{"-width", "1"}, goes_on, "Using resolution 1x0\n", "style 8, 1x0, limit 60, samples 4"},
+        {{"-width", "-800"}, goes_on, "Using resolution -800x-600\n", "style 8, -800x-600, limit 60, samples 4"},
+        {{"-width", "wide"}, goes_on, "Using resolution 0x0\n", "style 8, 0x0, limit 60, samples 4"},
+        {{"-width", "-w"}, goes_on, "Using resolution 0x0\n", "style 8, 0x0, limit 60, samples 4"},
+        {{"-limit", "-w", "-w"}, goes_on, "", "style 4, 1024x768, limit 0, samples 4"},
+        {{"-limit"}, 1, "-limit requires a value\n", defaults},
+        {{"-width"}, 1, "-width requires a value\n", defaults},
+        {{"-w", "-width"}, 1, "-width requires a value\n", "style 4, 1024x768, limit 60, samples 4"},
+        {{"-h"}, 0, help, defaults},
+        {{"--help"}, 0, help, defaults},
+        {{"-w", "-h", "-fps"}, 0, help, "style 4, 1024x768, limit 60, samples 4"},
         {{"-width", "800", "--help"},
-         0,                                                                             std::string("Using resolution 800x600\n") + help,
-         "style 8, 800x600, limit 60, samples 4"                                                                                                                                                 },
-        {{"-limit", "-h"},                                                     goes_on, "",                                                     "style 8, 1024x768, limit 0, samples 4"          },
-        {{"-foo"},                                                             1,       "Bad command line parameter '-foo'\n",                  defaults                                         },
-        {{"-foo", "-w"},                                                       1,       "Bad command line parameter '-foo'\n",                  defaults                                         },
-        {{"-w", "-foo", "-h"},                                                 1,       "Bad command line parameter '-foo'\n",                  "style 4, 1024x768, limit 60, samples 4"         },
-        {{""},                                                                 1,       "Bad command line parameter ''\n",                      defaults                                         },
-        {{"w"},                                                                1,       "Bad command line parameter 'w'\n",                     defaults                                         },
-        {{"-W"},                                                               1,       "Bad command line parameter '-W'\n",                    defaults                                         },
-        {{"-wi"},                                                              1,       "Bad command line parameter '-wi'\n",                   defaults                                         },
-        {{"-help"},                                                            1,       "Bad command line parameter '-help'\n",                 defaults                                         },
-        {{"-limit30"},                                                         1,       "Bad command line parameter '-limit30'\n",              defaults                                         },
-        {{"-nolimit", "-limit", "50"},                                         goes_on, "",                                                     "style 8, 1024x768, limit 50, samples 4"         },
-        {{"-limit", "50", "-nolimit"},                                         goes_on, "",                                                     "style 8, 1024x768, limit 0, samples 4"          },
+         0,
+         std::string("Using resolution 800x600\n") + help,
+         "style 8, 800x600, limit 60, samples 4"},
+        {{"-limit", "-h"}, goes_on, "", "style 8, 1024x768, limit 0, samples 4"},
+        {{"-foo"}, 1, "Bad command line parameter '-foo'\n", defaults},
+        {{"-foo", "-w"}, 1, "Bad command line parameter '-foo'\n", defaults},
+        {{"-w", "-foo", "-h"}, 1, "Bad command line parameter '-foo'\n", "style 4, 1024x768, limit 60, samples 4"},
+        {{""}, 1, "Bad command line parameter ''\n", defaults},
+        {{"w"}, 1, "Bad command line parameter 'w'\n", defaults},
+        {{"-W"}, 1, "Bad command line parameter '-W'\n", defaults},
+        {{"-wi"}, 1, "Bad command line parameter '-wi'\n", defaults},
+        {{"-help"}, 1, "Bad command line parameter '-help'\n", defaults},
+        {{"-limit30"}, 1, "Bad command line parameter '-limit30'\n", defaults},
+        {{"-nolimit", "-limit", "50"}, goes_on, "", "style 8, 1024x768, limit 50, samples 4"},
+        {{"-limit", "50", "-nolimit"}, goes_on, "", "style 8, 1024x768, limit 0, samples 4"},
         {{"-width", "800", "-width", "640"},
-         goes_on,                                                                       "Using resolution 800x600\nUsing resolution 640x480\n",
-         "style 8, 640x480, limit 60, samples 4"                                                                                                                                                 },
+         goes_on,
+         "Using resolution 800x600\nUsing resolution 640x480\n",
+         "style 8, 640x480, limit 60, samples 4"},
         {{"-w", "-novsync", "-fps", "-nolimit", "-magic", "-mute", "-nofsaa"},
-         goes_on,                                                                       "",
-         "style 4, 1024x768, limit 0, samples 0, no sync, mute, fps, magic"                                                                                                                      },
+         goes_on,
+         "",
+         "style 4, 1024x768, limit 0, samples 0, no sync, mute, fps, magic"},
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(testing::PrintToString(row.arguments));
@@ -152,6 +155,7 @@ TEST_F(CommandLine, AnswersEveryOption) {
 
 TEST_F(CommandLine, EndsTheProgramWithItsStatusBeforeAnyWindowOpens) {
     char program[] = "hardsilence";
+    // clang-format off
     char const* const rows[][2] = {
         {"-h",     "0"},
         {"--help", "0"},
@@ -159,6 +163,7 @@ TEST_F(CommandLine, EndsTheProgramWithItsStatusBeforeAnyWindowOpens) {
         {"-limit", "1"},
         {"-width", "1"},
     };
+    // clang-format on
     unsetenv("DISPLAY");
     for (auto const& [option, expected] : rows) {
         std::string argument = option;
@@ -176,14 +181,16 @@ TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened) {
     struct {
         std::string width;
         char const* line;
+        // clang-format off
     } const rows[] = {
-        {"0",           "Cannot open a window of 0x0 pixels.\n"                              },
-        {"1",           "Cannot open a window of 1x0 pixels.\n"                              },
-        {"-5",          "Cannot open a window of -5x-3 pixels.\n"                            },
-        {"32768",       "Cannot open a window of 32768x24576 pixels.\n"                      },
-        {"99999999999", "Cannot open a window of 2147483647x1610612735 pixels.\n"            },
+        {"0",           "Cannot open a window of 0x0 pixels.\n"},
+        {"1",           "Cannot open a window of 1x0 pixels.\n"},
+        {"-5",          "Cannot open a window of -5x-3 pixels.\n"},
+        {"32768",       "Cannot open a window of 32768x24576 pixels.\n"},
+        {"99999999999", "Cannot open a window of 2147483647x1610612735 pixels.\n"},
         {"800",         "Cannot open the display. Is DISPLAY set, and an X server running?\n"},
     };
+    // clang-format on
     for (auto const& row : rows) {
         char program[] = "hardsilence";
         char option[] = "-width";
@@ -210,21 +217,23 @@ TEST(MyAtoi, ReadsTheNumberAtTheStart) {
     struct {
         char const* text;
         int number;
+        // clang-format off
     } const rows[] = {
-        {"0",          0         },
-        {"800",        800       },
-        {"800abc",     800       },
-        {"  42",       42        },
-        {"-7",         -7        },
-        {"+7",         7         },
-        {"0x10",       0         },
-        {"010",        10        },
-        {"3.9",        3         },
+        {"0",          0},
+        {"800",        800},
+        {"800abc",     800},
+        {"  42",       42},
+        {"-7",         -7},
+        {"+7",         7},
+        {"0x10",       0},
+        {"010",        10},
+        {"3.9",        3},
         {"2147483647", 2147483647},
-        {"",           0         },
-        {"abc",        0         },
-        {"-",          0         },
+        {"",           0},
+        {"abc",        0},
+        {"-",          0},
     };
+    // clang-format on
     for (auto const& row : rows) EXPECT_EQ(my_atoi(row.text), row.number) << row.text;
 }
 

@@ -11,13 +11,7 @@ Names const fountain = {
 };
 
 TEST(Fountain, ShowsSixToriInThreeShells) {
-    expect_moments(fountain_scene,
-                   {
-                       {3,    fountain},
-                       {35,   fountain},
-                       {63.9, fountain}
-    },
-                   white_wall);
+    expect_moments(fountain_scene, {{3, fountain}, {35, fountain}, {63.9, fountain}}, white_wall);
     EXPECT_EQ(Stage::Count("torus2"), 6);
 }
 
@@ -27,13 +21,15 @@ TEST(Fountain, TravelsInItsFirstHalfAndSettlesInTheSecond) {
     double const close = 115;
     struct {
         double at, z;
+        // clang-format off
     } const rows[] = {
-        {0,    far                       },
-        {16,   (far + close) / 2         },
-        {32,   close                     },
+        {0,    far},
+        {16,   (far + close) / 2},
+        {32,   close},
         {48,   close + (close - far) / 16},
-        {63.9, close                     },
+        {63.9, close},
     };
+    // clang-format on
     for (auto const& row : rows) {
         SCOPED_TRACE(row.at);
         EXPECT_THAT(camera(s.PlayTo(row.at)), near({0, 0, row.z, 0, 0, 0}, 2));
@@ -44,12 +40,14 @@ TEST(Fountain, TurnsTheFountainAndEachShellAtARateOfItsOwn) {
     Stage s(fountain_scene);
     s.PlayTo(3).Draw();
     auto const t = static_cast<double>(s.Time());
+    // clang-format off
     double const spins[4][3] = {
-        {30,  90,  50 },
+        {30,  90,  50},
         {-30, -90, -50},
         {10,  30,  -20},
-        {-40, -30, 20 },
+        {-40, -30, 20},
     };
+    // clang-format on
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_THAT(values(s.Entity(5 + i).GetRot()), near({spins[i][0] * t, spins[i][1] * t, spins[i][2] * t}, 1e-3));
     }
@@ -58,8 +56,8 @@ TEST(Fountain, TurnsTheFountainAndEachShellAtARateOfItsOwn) {
         float scale;
         std::size_t spin;
     } const shells[] = {
-        {"hollowsoccerball", 20,  1},
-        {"frameoctoball",    30,  2},
+        {"hollowsoccerball", 20, 1},
+        {"frameoctoball", 30, 2},
         {"frameicosahedron", 150, 3},
     };
     double const z = camera(s)[2];

@@ -11,12 +11,12 @@ TEST(GunGirl, PutsItsFigureTogetherAndThenShowsItWithTheGyro) {
     Names const all = {"gungirl_silhouette:0", "donut2:0", "donut2/lines:1"};
     expect_moments(gungirl_scene,
                    {
-                       {0,    pieces},
-                       {3.9,  pieces},
-                       {9,    all   },
-                       {17,   all   },
-                       {47.9, all   },
-    },
+                       {0, pieces},
+                       {3.9, pieces},
+                       {9, all},
+                       {17, all},
+                       {47.9, all},
+                   },
                    white_wall);
     expect_names(gungirl_scene, 4, {"gungirl_silhouette", "tile"});
     expect_names(gungirl_scene, 7.9, {"gungirl_silhouette", "tile"});
@@ -55,12 +55,9 @@ TEST(GunGirl, FlipsTheWallFourTimes) {
         double at;
         char const* turn;
     } const rows[] = {
-        {15.9, "Rotate(180,0,1,0) Rotate(360,1,0,0)"},
-        {18.2, "Rotate(0,0,1,0) Rotate(0,1,0,0)"    },
-        {23.9, "Rotate(0,0,1,0) Rotate(0,1,0,0)"    },
-        {26.2, "Rotate(180,0,1,0) Rotate(360,1,0,0)"},
-        {34.2, "Rotate(0,0,1,0) Rotate(0,1,0,0)"    },
-        {42.2, "Rotate(180,0,1,0) Rotate(360,1,0,0)"},
+        {15.9, "Rotate(180,0,1,0) Rotate(360,1,0,0)"}, {18.2, "Rotate(0,0,1,0) Rotate(0,1,0,0)"},
+        {23.9, "Rotate(0,0,1,0) Rotate(0,1,0,0)"},     {26.2, "Rotate(180,0,1,0) Rotate(360,1,0,0)"},
+        {34.2, "Rotate(0,0,1,0) Rotate(0,1,0,0)"},     {42.2, "Rotate(180,0,1,0) Rotate(360,1,0,0)"},
     };
     for (auto const& row : rows) {
         SCOPED_TRACE(row.at);

@@ -16,9 +16,9 @@ TEST(Plasma, StandsThreeTitlesBeforeTheMountain) {
         char const* name;
         float scale, depth, y;
     } const titles[] = {
-        {"QUILLONx-title", 0.5f, 0.01f, 15 },
-        {"HARD-title",     30,   1,     0  },
-        {"SILENCE-title",  6.5f, 1,     -11},
+        {"QUILLONx-title", 0.5f, 0.01f, 15},
+        {"HARD-title", 30, 1, 0},
+        {"SILENCE-title", 6.5f, 1, -11},
     };
     for (auto const& title : titles) {
         SCOPED_TRACE(title.name);

@@ -26,17 +26,19 @@ std::vector<Event> every(int beats, int count, int offset, Type type, int value)
 }
 
 std::vector<Window> fountain_windows(int length) {
+    // clang-format off
     return {
-        {"Blinker",         0, length, true },
-        {"Blinker",         0, length, true },
-        {"Blinker",         0, length, true },
-        {"Blinker",         0, length, true },
+        {"Blinker",         0, length, true},
+        {"Blinker",         0, length, true},
+        {"Blinker",         0, length, true},
+        {"Blinker",         0, length, true},
         {"FlashBackground", 0, length, false},
-        {"TorusFountain",   0, length, true },
-        {"SimpleModel",     0, length, true },
-        {"SimpleModel",     0, length, true },
-        {"SimpleModel",     0, length, true },
+        {"TorusFountain",   0, length, true},
+        {"SimpleModel",     0, length, true},
+        {"SimpleModel",     0, length, true},
+        {"SimpleModel",     0, length, true},
     };
+    // clang-format on
 }
 
 std::vector<Window> greets_windows() {
@@ -68,7 +70,8 @@ std::vector<Event> swapper_blinks() {
 std::vector<Score> const& all() {
     static std::vector<Score> const scores = {
         {"Intro",
-         intro_scene,                  16,
+         intro_scene,
+         16,
          {
              {"Blinker", 0, 16, true},
              {"Blinker", 0, 16, true},
@@ -82,20 +85,24 @@ std::vector<Score> const& all() {
              {"SimpleModel", 7, 9, true},
              {"BrokenModel", 10, 6, true},
              {"FlashBackground", 0, 16, false},
-         },                                                      {{{1225, break_up, 1}, {1225, strobe, 2}, {1400, strobe, 2}}, every(1, 8, 25, strobe, 6)},
-         {{9, 10, 11}, {2, 3, 4, 5, 6, 7, 8}}                                                                                                                                                     },
+         },
+         {{{1225, break_up, 1}, {1225, strobe, 2}, {1400, strobe, 2}}, every(1, 8, 25, strobe, 6)},
+         {{9, 10, 11}, {2, 3, 4, 5, 6, 7, 8}}},
         {"Gun Girl",
-         gungirl_scene,                48,
+         gungirl_scene,
+         48,
          {
              {"SimpleModel", 4, 44, true},
              {"BrokenModel", 0, 4, true},
              {"GyroFuck", 8, 40, true},
              {"FlashBackground", 0, 48, false},
              {"Blinker", 0, 48, true},
-         },                                                      {{{0, break_up, 1}, {400, strobe, 56}, {1600, flip, 1}, {2400, flip, 0}, {3200, flip, 1}, {4000, flip, 0}}},
-         {{0, 1, 2, 3}}                                                                                                                                                                           },
+         },
+         {{{0, break_up, 1}, {400, strobe, 56}, {1600, flip, 1}, {2400, flip, 0}, {3200, flip, 1}, {4000, flip, 0}}},
+         {{0, 1, 2, 3}}},
         {"Swapper",
-         swapper_scene,                96,
+         swapper_scene,
+         96,
          {
              {"BrokenModel", 0, 16, true},
              {"BrokenModel", 16, 16, true},
@@ -107,10 +114,12 @@ std::vector<Score> const& all() {
              {"BrokenModel", 0, 96, true},
              {"FlashBackground", 0, 96, false},
              {"Blinker", 0, 96, true},
-         },                                                      {swapper_blinks()},
-         {{0, 1, 2, 3, 4, 5, 6, 7, 8}}                                                                                                                                                            },
+         },
+         {swapper_blinks()},
+         {{0, 1, 2, 3, 4, 5, 6, 7, 8}}},
         {"Credits",
-         credits_scene,                24,
+         credits_scene,
+         24,
          {
              {"Blinker", 0, 24, true},
              {"SimpleModel", 0, 24, true},
@@ -120,7 +129,8 @@ std::vector<Score> const& all() {
              {"SimpleModel", 0, 24, true},
              {"SimpleModel", 0, 24, true},
              {"FlashBackground", 0, 24, false},
-         },                                                      {{{5, solid, 1},
+         },
+         {{{5, solid, 1},
            {5, strobe, 48},
            {400, solid, 0},
            {600, solid, 1},
@@ -153,19 +163,22 @@ std::vector<Score> const& all() {
            {2100, solid, 0},
            {2300, solid, 1},
            {2400, solid, 0}}},
-         {{1, 7}, {3, 7}, {5, 7}}                                                                                                                                                                 },
+         {{1, 7}, {3, 7}, {5, 7}}},
         {"Tunnelgate",
-         wire_scene,                   72,
+         wire_scene,
+         72,
          {
              {"Blinker", 0, 72, true},
              {"FlashBackground", 0, 72, false},
              {"PulseWire", 0, 72, true},
              {"SimpleModel", 0, 72, true},
              {"SimpleModel", 0, 72, true},
-         },                                                      {every(1, 80, 0, strobe, 2)},
-         {{1, 2, 3, 4}}                                                                                                                                                                           },
+         },
+         {every(1, 80, 0, strobe, 2)},
+         {{1, 2, 3, 4}}},
         {"Plasma",
-         plasma_scene,                 32,
+         plasma_scene,
+         32,
          {
              {"FlashBackground", 0, 32, false},
              {"TextureMountain", 0, 32, true},
@@ -173,10 +186,11 @@ std::vector<Score> const& all() {
              {"SimpleModel", 0, 32, true},
              {"SimpleModel", 0, 32, true},
              {"Blinker", 0, 32, true},
-         },                                                      {{{0, strobe, 9000}, {2800, strobe, 9000}, {0, break_up, 1}, {2800, break_up, 1}}},
-         {{2, 3, 4}}                                                                                                                                                                              },
-        {"Fountain",   fountain_scene, 64, fountain_windows(64), fountain_blinks(),                                                                                           {{5}, {6}, {7}, {8}}},
-        {"Greets",     greets_scene,   32, greets_windows(),     fountain_blinks(),                                                                                           {{5}, {6}, {7}, {8}}},
+         },
+         {{{0, strobe, 9000}, {2800, strobe, 9000}, {0, break_up, 1}, {2800, break_up, 1}}},
+         {{2, 3, 4}}},
+        {"Fountain", fountain_scene, 64, fountain_windows(64), fountain_blinks(), {{5}, {6}, {7}, {8}}},
+        {"Greets", greets_scene, 32, greets_windows(), fountain_blinks(), {{5}, {6}, {7}, {8}}},
     };
     return scores;
 }

@@ -15,9 +15,8 @@ TEST(Swapper, ShowsOneShapeAfterTheOther) {
         std::string const shape = std::string(shapes[k]) + "#";
         for (double const at : {0.5, 3.0, 13.0}) {
             if (k == 1 && at == 0.5) continue; // the strobe of beat 16 runs
-            moments.push_back({
-                16 * k + at, {shape + ":0", shape + "/lines:1", "frameoctoball#/lines:0", "gun_silhouette:0"}
-            });
+            moments.push_back(
+                {16 * k + at, {shape + ":0", shape + "/lines:1", "frameoctoball#/lines:0", "gun_silhouette:0"}});
         }
     }
     expect_moments(swapper_scene, moments, white_wall);

@@ -8,10 +8,11 @@ using testing::HasSubstr;
 
 namespace {
 
+// clang-format off
 constexpr double path[9][3] = {
-    {0,   0,   0   },
-    {-5,  -10, -40 },
-    {5,   20,  -90 },
+    {0,   0,   0},
+    {-5,  -10, -40},
+    {5,   20,  -90},
     {-20, 30,  -140},
     {-30, 40,  -200},
     {10,  50,  -260},
@@ -19,9 +20,11 @@ constexpr double path[9][3] = {
     {10,  50,  -340},
     {-10, 30,  -400},
 };
+// clang-format on
+// clang-format off
 constexpr double aims[9][3] = {
-    {-5,   -10, -40 },
-    {5,    20,  -90 },
+    {-5,   -10, -40},
+    {5,    20,  -90},
     {-20,  30,  -140},
     {-30,  40,  -200},
     {1000, 50,  -260},
@@ -30,6 +33,7 @@ constexpr double aims[9][3] = {
     {20,   60,  -400},
     {-10,  30,  -250},
 };
+// clang-format on
 
 constexpr std::size_t tentacles = 3; // enabler
 

@@ -13,35 +13,37 @@ struct Word {
     std::string_view text;
 };
 
+// clang-format off
 constexpr Word primitives[] = {
-    {GL_LINES,     "LINES"    },
+    {GL_LINES,     "LINES"},
     {GL_TRIANGLES, "TRIANGLES"},
-    {GL_QUADS,     "QUADS"    },
-    {GL_POLYGON,   "POLYGON"  },
+    {GL_QUADS,     "QUADS"},
+    {GL_POLYGON,   "POLYGON"},
 };
 
 constexpr Word words[] = {
-    {GL_MODELVIEW,                   "MODELVIEW"                  },
-    {GL_PROJECTION,                  "PROJECTION"                 },
-    {GL_TEXTURE_2D,                  "TEXTURE_2D"                 },
-    {GL_DEPTH_TEST,                  "DEPTH_TEST"                 },
-    {GL_BLEND,                       "BLEND"                      },
-    {GL_CULL_FACE,                   "CULL_FACE"                  },
-    {GL_COLOR_MATERIAL,              "COLOR_MATERIAL"             },
+    {GL_MODELVIEW,                   "MODELVIEW"},
+    {GL_PROJECTION,                  "PROJECTION"},
+    {GL_TEXTURE_2D,                  "TEXTURE_2D"},
+    {GL_DEPTH_TEST,                  "DEPTH_TEST"},
+    {GL_BLEND,                       "BLEND"},
+    {GL_CULL_FACE,                   "CULL_FACE"},
+    {GL_COLOR_MATERIAL,              "COLOR_MATERIAL"},
     {GL_PERSPECTIVE_CORRECTION_HINT, "PERSPECTIVE_CORRECTION_HINT"},
-    {GL_NICEST,                      "NICEST"                     },
-    {GL_SRC_ALPHA,                   "SRC_ALPHA"                  },
-    {GL_ONE_MINUS_SRC_ALPHA,         "ONE_MINUS_SRC_ALPHA"        },
-    {GL_SMOOTH,                      "SMOOTH"                     },
-    {GL_COMPILE,                     "COMPILE"                    },
-    {GL_TEXTURE_MAG_FILTER,          "TEXTURE_MAG_FILTER"         },
-    {GL_TEXTURE_MIN_FILTER,          "TEXTURE_MIN_FILTER"         },
-    {GL_NEAREST,                     "NEAREST"                    },
-    {GL_LINEAR,                      "LINEAR"                     },
-    {GL_LINEAR_MIPMAP_NEAREST,       "LINEAR_MIPMAP_NEAREST"      },
-    {GL_RGB,                         "RGB"                        },
-    {GL_UNSIGNED_BYTE,               "UNSIGNED_BYTE"              },
+    {GL_NICEST,                      "NICEST"},
+    {GL_SRC_ALPHA,                   "SRC_ALPHA"},
+    {GL_ONE_MINUS_SRC_ALPHA,         "ONE_MINUS_SRC_ALPHA"},
+    {GL_SMOOTH,                      "SMOOTH"},
+    {GL_COMPILE,                     "COMPILE"},
+    {GL_TEXTURE_MAG_FILTER,          "TEXTURE_MAG_FILTER"},
+    {GL_TEXTURE_MIN_FILTER,          "TEXTURE_MIN_FILTER"},
+    {GL_NEAREST,                     "NEAREST"},
+    {GL_LINEAR,                      "LINEAR"},
+    {GL_LINEAR_MIPMAP_NEAREST,       "LINEAR_MIPMAP_NEAREST"},
+    {GL_RGB,                         "RGB"},
+    {GL_UNSIGNED_BYTE,               "UNSIGNED_BYTE"},
 };
+// clang-format on
 
 void begin() {
     if (state().in_primitive) return raise("INVALID_OPERATION", "Begin");

@@ -11,10 +11,7 @@
 namespace {
 
 asc::Object triangle(std::string const& name) {
-    return {
-        name, {{0, 0, 0},      {1.5, 0, 0}, {0, -0.25, 2}},
-         {{{0, 1, 2}, {1, 1, 1}}}
-    };
+    return {name, {{0, 0, 0}, {1.5, 0, 0}, {0, -0.25, 2}}, {{{0, 1, 2}, {1, 1, 1}}}};
 }
 
 std::string const triangle_text = "Named object: \"flag\"\r\n"
@@ -75,35 +72,35 @@ TEST(AscParse, NamesTheLineOfEveryDepartureFromTheLayout) {
         int line;
         std::string fault;
     } const cases[] = {
-        {"",                                                                    0,                 "the file is empty"                            },
-        {"\r\n" + triangle_text,                                                1,                 "expected a line like: Named object: \"name\"" },
-        {replaced(triangle_text,                                                "\"flag\"",        "flag"),                                         1, "expected a line like: Named object: \"name\""},
-        {replaced(triangle_text,                       "Vertices: 3",                                        "Vertices: x"),                                                                  2,
+        {"", 0, "the file is empty"},
+        {"\r\n" + triangle_text, 1, "expected a line like: Named object: \"name\""},
+        {replaced(triangle_text, "\"flag\"", "flag"), 1, "expected a line like: Named object: \"name\""},
+        {replaced(triangle_text, "Vertices: 3", "Vertices: x"), 2,
          "expected a line like: Tri-mesh, Vertices: 8     Faces: 12"},
-        {replaced(triangle_text,                                                       "Faces: 1",                                "Faces: 0"),                                                                               2,
+        {replaced(triangle_text, "Faces: 1", "Faces: 0"), 2,
          "expected a line like: Tri-mesh, Vertices: 8     Faces: 12"},
-        {replaced(triangle_text,                                                "Vertices: 3", "Vertices: 2"),      6,
+        {replaced(triangle_text, "Vertices: 3", "Vertices: 2"), 6,
          "expected 'Face list:'; the header's counts may be wrong"},
-        {replaced(triangle_text,           "Vertices: 3",                            "Vertices: 4"),                                                      7,
+        {replaced(triangle_text, "Vertices: 3", "Vertices: 4"), 7,
          "expected vertex 3 with X, Y and Z; the header's counts may be wrong"},
-        {replaced(triangle_text,                                                       "Faces: 1",                                                                       "Faces: 2"),                                                                                 8, "the file ends where face 1 should follow"},
-        {replaced(triangle_text,                                                "Vertex 1:",                                          "Vertex 7:"),                                                5,
+        {replaced(triangle_text, "Faces: 1", "Faces: 2"), 8, "the file ends where face 1 should follow"},
+        {replaced(triangle_text, "Vertex 1:", "Vertex 7:"), 5,
          "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
-        {replaced(triangle_text, "X:1.5",                  "X:1,5"),                                            5,
+        {replaced(triangle_text, "X:1.5", "X:1,5"), 5,
          "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
-        {replaced(triangle_text,                                                          "X:1.5",    "X:nan"),5,
+        {replaced(triangle_text, "X:1.5", "X:nan"), 5,
          "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
-        {replaced(triangle_text,                                                "C:2",       "C:3"), 8, "vertex index 3 is out of range: there are 3"},
-        {replaced(triangle_text, "C:2",                  "C:-1"),                                            8, "vertex index -1 is out of range: there are 3"},
-        {replaced(triangle_text,                                                             "CA:1",                                                            "CA:2"),                                                                     8, "edge flag 2 is neither 0 nor 1"},
-        {replaced(triangle_text,                                                "Face list:\r\n", "Face list:\n"),                                     7,
+        {replaced(triangle_text, "C:2", "C:3"), 8, "vertex index 3 is out of range: there are 3"},
+        {replaced(triangle_text, "C:2", "C:-1"), 8, "vertex index -1 is out of range: there are 3"},
+        {replaced(triangle_text, "CA:1", "CA:2"), 8, "edge flag 2 is neither 0 nor 1"},
+        {replaced(triangle_text, "Face list:\r\n", "Face list:\n"), 7,
          "the line does not end in carriage return and line feed"},
-        {triangle_text.substr(0, triangle_text.size() - 2),                  8,                                            "the last line has no line end"},
-        {triangle_text + "\r\n",                                                               9,                                                                         "the file ends with a blank line"                                                                          },
-        {triangle_text + triangle_text,                                                9,
-         "expected one blank line after the last face; the header's counts may be wrong"                                                                                  },
-        {triangle_text + "\r\n\r\n" + triangle_text,                       10,                                        "expected a line like: Named object: \"name\""                                                                 },
-        {triangle_text + "\r\n" + triangle_text,                                                              10,                   "the name 'flag' stands at line 1 too"},
+        {triangle_text.substr(0, triangle_text.size() - 2), 8, "the last line has no line end"},
+        {triangle_text + "\r\n", 9, "the file ends with a blank line"},
+        {triangle_text + triangle_text, 9,
+         "expected one blank line after the last face; the header's counts may be wrong"},
+        {triangle_text + "\r\n\r\n" + triangle_text, 10, "expected a line like: Named object: \"name\""},
+        {triangle_text + "\r\n" + triangle_text, 10, "the name 'flag' stands at line 1 too"},
     };
     for (auto const& [text, line, fault] : cases) {
         SCOPED_TRACE(fault);

@@ -16,22 +16,10 @@ namespace {
 asc::Object cube() {
     asc::Object object{"cube", {}, {}};
     for (int i = 0; i < 8; ++i) object.vertices.push_back({i & 1 ? 1.0 : -1.0, i & 2 ? 1.0 : -1.0, i & 4 ? 1.0 : -1.0});
-    for (auto const& q : {
-             std::array{0, 2, 3, 1},
-             {4, 5, 7, 6},
-             {0, 1, 5, 4},
-             {2, 6, 7, 3},
-             {0, 4, 6, 2},
-             {1, 3, 7, 5}
-    }) {
-        object.faces.push_back({
-            {q[0],  q[1], q[2]},
-            {    }
-        });
-        object.faces.push_back({
-            {q[0],  q[2], q[3]},
-            {    }
-        });
+    for (auto const& q :
+         {std::array{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4}, {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}}) {
+        object.faces.push_back({{q[0], q[1], q[2]}, {}});
+        object.faces.push_back({{q[0], q[2], q[3]}, {}});
     }
     return object;
 }
@@ -40,19 +28,12 @@ asc::Object cube() {
 asc::Object square_with_hole() {
     asc::Object object{
         "frame",
-        {{-1, -1, 0},    {1, -1, 0}, {1, 1, 0}, {-1, 1, 0}, {-.5, -.5, 0}, {.5, -.5, 0}, {.5, .5, 0}, {-.5, .5, 0}},
-        {}
-    };
+        {{-1, -1, 0}, {1, -1, 0}, {1, 1, 0}, {-1, 1, 0}, {-.5, -.5, 0}, {.5, -.5, 0}, {.5, .5, 0}, {-.5, .5, 0}},
+        {}};
     for (int i = 0; i < 4; ++i) {
         int const j = (i + 1) % 4;
-        object.faces.push_back({
-            {i,      j, 4 + j},
-            {     }
-        });
-        object.faces.push_back({
-            {i,      4 + j, 4 + i},
-            {     }
-        });
+        object.faces.push_back({{i, j, 4 + j}, {}});
+        object.faces.push_back({{i, 4 + j, 4 + i}, {}});
     }
     return object;
 }
@@ -91,33 +72,22 @@ TEST(AscCreases, FlagsDrawExactlyTheCreasesWhicheverCornerAFaceStartsWith) {
 
 TEST(AscCreases, FlagsOfOneTwoAndThreeVisibleEdges) {
     // Two triangles of a square show two edges each; a third one hangs on the diagonal of the second square.
-    asc::Object two{
-        "two", {{0, 0, 0},  {1, 0, 0}, {1, 1, 0}, {0, 1, 0}},
-         {{{0, 1, 2}, {}}, {{0, 2, 3}, {}}         }
-    };
+    asc::Object two{"two", {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, {{{0, 1, 2}, {}}, {{0, 2, 3}, {}}}};
     asc::flag_creases(two);
     for (asc::Face const& face : two.faces) EXPECT_EQ(face.edge, (std::array{0, 1, 1}));
-    asc::Object three{
-        "three", {{0, 0, 0},  {1, 0, 0}, {1, 1, 0}},
-         {{{0, 1, 2}, {}}}
-    };
+    asc::Object three{"three", {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}, {{{0, 1, 2}, {}}}};
     asc::flag_creases(three);
     EXPECT_EQ(three.faces[0].edge, (std::array{1, 1, 1}));
-    asc::Object strip{
-        "strip",
-        {{0, 0, 0},   {2, 0, 0}, {1, 1, 0}, {3, 1, 0}, {-1, 1, 0}},
-        {{{0, 1, 2}, {}}, {{2, 1, 3}, {}},          {{0, 2, 4}, {}}    }
-    };
+    asc::Object strip{"strip",
+                      {{0, 0, 0}, {2, 0, 0}, {1, 1, 0}, {3, 1, 0}, {-1, 1, 0}},
+                      {{{0, 1, 2}, {}}, {{2, 1, 3}, {}}, {{0, 2, 4}, {}}}};
     asc::flag_creases(strip);
     EXPECT_EQ(strip.faces[0].edge, (std::array{1, 0, 0}));
     EXPECT_EQ(strip.faces[0].v, (std::array{0, 1, 2}));
 }
 
 TEST(AscCreases, TheFlagCAAloneDrawsNothing) {
-    asc::Object const object{
-        "one", {{0, 0, 0},  {1, 0, 0}, {1, 1, 0}},
-         {{{0, 1, 2}, {0, 0, 1}}}
-    };
+    asc::Object const object{"one", {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}, {{{0, 1, 2}, {0, 0, 1}}}};
     EXPECT_TRUE(asc::drawn_edges(object).empty());
 }
 
@@ -125,14 +95,8 @@ TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDoubleOrLoose) {
     asc::Object object = cube();
     object.vertices.push_back({5, 5, 5});           // loose
     object.vertices.push_back({-1, -1, -1.000001}); // where vertex 0 is
-    object.faces.push_back({
-        {9,  2, 3},
-        { }
-    }); // face 0 once more
-    object.faces.push_back({
-        {0,  9, 3},
-        { }
-    }); // without area once joined
+    object.faces.push_back({{9, 2, 3}, {}});        // face 0 once more
+    object.faces.push_back({{0, 9, 3}, {}});        // without area once joined
     asc::clean(object);
     EXPECT_EQ(object.vertices.size(), 8U);
     EXPECT_EQ(object.faces.size(), 12U);
@@ -140,11 +104,9 @@ TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDoubleOrLoose) {
 
 TEST(AscRepair, CleanTakesAThinFaceOutWithoutOpeningAGap) {
     // The lower triangle's base 0-1 carries a thin face with its tip in the middle of the base.
-    asc::Object object{
-        "thin",
-        {{0, 0, 0}, {2, 0, 0}, {1, 0, 0},            {1, 1, 0},          {1, -1, 0}},
-        {{{0, 1, 3}, {}},         {{1, 0, 2}, {}},    {{0, 4, 2}, {}}, {{2, 4, 1}, {}}}
-    };
+    asc::Object object{"thin",
+                       {{0, 0, 0}, {2, 0, 0}, {1, 0, 0}, {1, 1, 0}, {1, -1, 0}},
+                       {{{0, 1, 3}, {}}, {{1, 0, 2}, {}}, {{0, 4, 2}, {}}, {{2, 4, 1}, {}}}};
     asc::clean(object);
     EXPECT_EQ(object.faces.size(), 4U);
     EXPECT_DOUBLE_EQ(area(object), 2.0);
@@ -268,22 +230,13 @@ TEST(AscCheck, FindsEachFault) {
 }
 
 TEST(AscCheck, TellsWhenAShatteredMeshHasTooManyFaces) {
-    asc::Object strip{
-        "strip", {{0, 0, 0},  {0, 1, 0}},
-         {          }
-    };
+    asc::Object strip{"strip", {{0, 0, 0}, {0, 1, 0}}, {}};
     for (int i = 1; i <= 5001; ++i) {
         strip.vertices.push_back({0.5 * i, 0, 0});
         strip.vertices.push_back({0.5 * i, 1, 0});
         int const a = 2 * i - 2;
-        strip.faces.push_back({
-            {a,      a + 2, a + 1},
-            {     }
-        });
-        strip.faces.push_back({
-            {a + 1,  a + 2, a + 3},
-            {     }
-        });
+        strip.faces.push_back({{a, a + 2, a + 1}, {}});
+        strip.faces.push_back({{a + 1, a + 2, a + 3}, {}});
     }
     asc::flag_creases(strip);
     EXPECT_EQ(fault_texts(strip, false), std::vector<std::string>{});

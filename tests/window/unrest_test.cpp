@@ -85,9 +85,9 @@ struct End {
 };
 
 constexpr End ends[] = {
-    {"closed",      [](Show& show) { show.screen.AskToClose(); }    },
-    {"interrupted", [](Show& show) { show.process.Signal(SIGINT); } },
-    {"terminated",  [](Show& show) { show.process.Signal(SIGTERM); }},
+    {"closed", [](Show& show) { show.screen.AskToClose(); }},
+    {"interrupted", [](Show& show) { show.process.Signal(SIGINT); }},
+    {"terminated", [](Show& show) { show.process.Signal(SIGTERM); }},
 };
 
 /// Plays all eight scenes at once, each in a program of its own, and ends them in turns.

@@ -267,10 +267,7 @@ int main(int argc, char* argv[]) {
         (words.empty() ? std::cerr : std::cout) << help;
         return words.empty() ? 1 : 0;
     }
-    Arguments arguments{
-        {words.begin() + 1, words.end()},
-        ""
-    };
+    Arguments arguments{{words.begin() + 1, words.end()}, ""};
     if (words[0] == "convert") return convert(std::move(arguments));
     if (words[0] == "join") return join(std::move(arguments));
     if (words[0] == "check") return check(std::move(arguments));

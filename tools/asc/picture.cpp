@@ -87,12 +87,7 @@ Vec3 best_turn(Object const& object, bool flat) {
     if (flat) return {};
     Vec3 best;
     double most = 0.0;
-    for (Vec3 const& turn : {
-             Vec3{25,  -30, 0},
-             Vec3{25,  30,  0},
-             Vec3{-25, -30, 0},
-             Vec3{-25, 30,  0}
-    }) {
+    for (Vec3 const& turn : {Vec3{25, -30, 0}, Vec3{25, 30, 0}, Vec3{-25, -30, 0}, Vec3{-25, 30, 0}}) {
         double seen = 0.0;
         for (Face const& face : object.faces) seen += std::abs(turned(face_normal(object, face), turn).z);
         if (seen < 1.1 * most) continue;

@@ -150,9 +150,7 @@ private:
         std::map<Triangulation::Face_handle, int> depth;
         std::vector<Point> seeds;
         std::vector<Triangulation::Face_handle> border{triangulation.infinite_face()};
-        std::map<Triangulation::Face_handle, int> next{
-            {border[0], 0}
-        };
+        std::map<Triangulation::Face_handle, int> next{{border[0], 0}};
         while (!border.empty()) {
             auto const start = border.back();
             border.pop_back();

@@ -95,20 +95,22 @@ Fault set_path_option(RecordOptions& options, std::string const& value) {
     return set_path(options.*Path, value);
 }
 
+// clang-format off
 constexpr Option table[] = {
-  // name        value? what it sets
-    {"--beats",   true,  set_beats                              },
+    // name        value? what it sets
+    {"--beats",   true,  set_beats},
     {"--out",     true,  set_path_option<&RecordOptions::folder>},
-    {"--sheet",   true,  set_path_option<&RecordOptions::sheet> },
-    {"--scene",   true,  set_scene                              },
-    {"--frames",  false, switch_on<&RecordOptions::frame_after> },
-    {"--size",    true,  set_size                               },
-    {"--samples", true,  set_samples                            },
-    {"--columns", true,  set_columns                            },
-    {"--wire",    false, switch_on<&RecordOptions::wire>        },
-    {"--no-wire", false, switch_off<&RecordOptions::wire>       },
-    {"--list",    false, switch_on<&RecordOptions::list>        },
+    {"--sheet",   true,  set_path_option<&RecordOptions::sheet>},
+    {"--scene",   true,  set_scene},
+    {"--frames",  false, switch_on<&RecordOptions::frame_after>},
+    {"--size",    true,  set_size},
+    {"--samples", true,  set_samples},
+    {"--columns", true,  set_columns},
+    {"--wire",    false, switch_on<&RecordOptions::wire>},
+    {"--no-wire", false, switch_off<&RecordOptions::wire>},
+    {"--list",    false, switch_on<&RecordOptions::list>},
 };
+// clang-format on
 
 Option const* find_option(std::string const& name) {
     for (Option const& option : table) {

@@ -45,14 +45,16 @@ TEST(Beats, RefuseEverythingElse) {
 }
 
 TEST(Beats, AreWrittenForFilesAndForPeople) {
+    // clang-format off
     std::tuple<Millibeats, char const*, char const*> const cases[] = {
-        {0,      "000.000", "0"      },
-        {500,    "000.500", "0.5"    },
-        {12400,  "012.400", "12.4"   },
-        {12050,  "012.050", "12.05"  },
+        {0,      "000.000", "0"},
+        {500,    "000.500", "0.5"},
+        {12400,  "012.400", "12.4"},
+        {12050,  "012.050", "12.05"},
         {383999, "383.999", "383.999"},
-        {100000, "100.000", "100"    },
+        {100000, "100.000", "100"},
     };
+    // clang-format on
     for (auto const& [at, padded, brief] : cases) {
         EXPECT_EQ(padded_beat(at), padded);
         EXPECT_EQ(short_beat(at), brief);

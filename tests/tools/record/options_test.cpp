@@ -72,32 +72,34 @@ TEST(RecordOptions, ListNeedsNothingElse) {
 TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
     std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5";
     std::string const no_size = " is not a size such as 1024x768, up to 8192x8192";
+    // clang-format off
     std::pair<std::vector<char const*>, std::string> const cases[] = {
-        {{},                          "no beats to record, see --beats"                     },
-        {{"--out", "x"},              "no beats to record, see --beats"                     },
-        {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"          },
-        {{"--fast"},                  "unknown option '--fast', see --help"                 },
-        {{"12.4"},                    "unknown option '12.4', see --help"                   },
-        {{"--beats"},                 "--beats requires a value"                            },
-        {{"--beats", "1", "--out"},   "--out requires a value"                              },
-        {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats                          },
-        {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats                         },
-        {{"--out", ""},               "--out: '' is not a path"                             },
-        {{"--sheet", ""},             "--sheet: '' is not a path"                           },
+        {{},                          "no beats to record, see --beats"},
+        {{"--out", "x"},              "no beats to record, see --beats"},
+        {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"},
+        {{"--fast"},                  "unknown option '--fast', see --help"},
+        {{"12.4"},                    "unknown option '12.4', see --help"},
+        {{"--beats"},                 "--beats requires a value"},
+        {{"--beats", "1", "--out"},   "--out requires a value"},
+        {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats},
+        {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats},
+        {{"--out", ""},               "--out: '' is not a path"},
+        {{"--sheet", ""},             "--sheet: '' is not a path"},
         {{"--scene", ""},             "--scene: '' is not a scene's name; --list shows them"},
-        {{"--size", "1024"},          "--size: '1024'" + no_size                            },
-        {{"--size", "1024x"},         "--size: '1024x'" + no_size                           },
-        {{"--size", "x768"},          "--size: 'x768'" + no_size                            },
-        {{"--size", "0x768"},         "--size: '0x768'" + no_size                           },
-        {{"--size", "8193x1"},        "--size: '8193x1'" + no_size                          },
-        {{"--size", "4x3x2"},         "--size: '4x3x2'" + no_size                           },
-        {{"--size", "-4x3"},          "--size: '-4x3'" + no_size                            },
-        {{"--size", "99999999999x1"}, "--size: '99999999999x1'" + no_size                   },
-        {{"--samples", "65"},         "--samples: '65' is not a number from 0 to 64"        },
-        {{"--samples", "four"},       "--samples: 'four' is not a number from 0 to 64"      },
-        {{"--columns", "0"},          "--columns: '0' is not a number from 1 to 100"        },
-        {{"--columns", "101"},        "--columns: '101' is not a number from 1 to 100"      },
+        {{"--size", "1024"},          "--size: '1024'" + no_size},
+        {{"--size", "1024x"},         "--size: '1024x'" + no_size},
+        {{"--size", "x768"},          "--size: 'x768'" + no_size},
+        {{"--size", "0x768"},         "--size: '0x768'" + no_size},
+        {{"--size", "8193x1"},        "--size: '8193x1'" + no_size},
+        {{"--size", "4x3x2"},         "--size: '4x3x2'" + no_size},
+        {{"--size", "-4x3"},          "--size: '-4x3'" + no_size},
+        {{"--size", "99999999999x1"}, "--size: '99999999999x1'" + no_size},
+        {{"--samples", "65"},         "--samples: '65' is not a number from 0 to 64"},
+        {{"--samples", "four"},       "--samples: 'four' is not a number from 0 to 64"},
+        {{"--columns", "0"},          "--columns: '0' is not a number from 1 to 100"},
+        {{"--columns", "101"},        "--columns: '101' is not a number from 1 to 100"},
     };
+    // clang-format on
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(testing::PrintToString(arguments));
         Outcome const outcome = read(arguments);

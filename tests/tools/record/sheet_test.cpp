@@ -121,8 +121,6 @@ TEST(Sheet, LaysPicturesOutInRowsWithTheirLabels) {
 }
 
 TEST(Sheet, IsNoWiderThanItsPictures) {
-    std::vector<SheetCell> const cells = {
-        {plain(40, 30, sf::Color::Red), ""}
-    };
+    std::vector<SheetCell> const cells = {{plain(40, 30, sf::Color::Red), ""}};
     EXPECT_EQ(make_sheet(cells, 100).getSize().x, 48u);
 }
