@@ -4,7 +4,9 @@
 #include "kore/report.h"
 #include "runtime/datafolder.h"
 #include "runtime/display.h"
+#include "runtime/environment.h"
 #include "runtime/frame.h"
+#include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
 #include "show/show.h"
 
@@ -173,16 +175,14 @@ bool show_over(int beat_count, kore::Demo const& demo) {
 }
 
 void run_show(sf::Window& window) {
-    float const beat = beat2seconds(beats_per_minute, 4);
-    BeatClock beats(beat);
     sf::Clock clock;
-    kore::StateData state;
-
     std::shared_ptr<kore::Music> music = std::make_shared<kore::MusicSFML>();
     music_init(music);
-    kore::Demo demo(beat);
-    init_demo(demo, music, beat);
+    kore::Demo demo(beat_seconds);
+    init_demo(demo, music, beat_seconds);
+    Stepper stepper(demo, beat_seconds);
     Controls controls{demo, music, {}, {}};
+    float fps = 0;
     music_play(music, true);
     clock.restart();
 
@@ -192,19 +192,11 @@ void run_show(sf::Window& window) {
         while (!controls.close && window.pollEvent(event)) handle_event(controls, event);
         if (controls.close) window.close();
         controls.view.Step();
-        state.time = controls.pauses.ShowTime(controls.now);
-        beats.Count(state);
-        // The context goes with the window: what is left of Escape's frame must not draw.
-        if (window.isOpen()) {
-            window.setActive(true);
-            draw_frame(demo, state, controls.view);
-        } else {
-            demo.UpdateLogic(state);
-        }
-        frame_counter(controls.now, state.fps);
-        state.new_beat = false;
-        if (window.isOpen()) window.display();
-        if (show_over(state.beat_count, demo)) break;
+        stepper.Update(controls.pauses.ShowTime(controls.now), fps);
+        if (window.setActive(true)) stepper.Draw(controls.view); // a closed window has no context
+        frame_counter(controls.now, fps);
+        window.display();
+        if (show_over(stepper.State().beat_count, demo)) break;
     }
     music->Pause();
 }
@@ -215,6 +207,7 @@ int main(int argc, char** argv) {
     catch_stop_signals();
     end_quietly_when_display_is_lost();
     enter_data_folder(HARDSILENCE_SHARE);
+    effect::look = look_from_environment();
 
     sf::ContextSettings const settings(video_depth, video_stencil, video_fsaa_level);
     // Not a render window: that one makes OpenGL calls of its own in every frame.

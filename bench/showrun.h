@@ -19,7 +19,10 @@ public:
     bool Next();
 
     /// Updates and draws the frame that Next has readied.
-    void Frame() { draw_frame(demo, state, view); }
+    void Frame() {
+        demo.UpdateLogic(state);
+        draw_frame(demo, view);
+    }
 
     /// Scene of the frame, counted from 0.
     std::size_t Scene() const { return scene; }

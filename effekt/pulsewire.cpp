@@ -1,19 +1,13 @@
 #include "effekt/pulsewire.h"
 
+#include "effekt/look.h"
 #include "kore/ascfile.h"
 
-#include <cstdlib>
-#include <string_view>
 #include <utility>
 
 namespace effect {
 
 namespace {
-
-bool is_set(char const* variable) {
-    char const* const value = std::getenv(variable);
-    return value && *value != 0 && std::string_view(value) != "0";
-}
 
 /// Parameter of the spline at sample i.
 float parameter(int i, int samples) { return static_cast<float>(i) * (1.0f / static_cast<float>(samples - 1)); }
@@ -21,7 +15,7 @@ float parameter(int i, int samples) { return static_cast<float>(i) * (1.0f / sta
 } // namespace
 
 PulseWire::PulseWire(std::shared_ptr<kore::CatmullRom> spline, kore::AscModel_ptr models)
-    : mySpline(std::move(spline)), myStandardCalls(is_set(standard_calls_variable)) {
+    : mySpline(std::move(spline)), myStandardCalls(look.standard_wire) {
     for (int i = 0; i < samples; ++i) myPoints.push_back(mySpline->GetSplinePoint(parameter(i, samples)));
     models->LoadModel("torus2.asc");
     models->ModelByName("torus2", myModel);

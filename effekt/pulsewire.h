@@ -15,13 +15,10 @@ namespace effect {
 /// Deliberate: the whole wire is issued between one glBegin and its glEnd. What that draws is the driver's choice. By
 /// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time
 /// and its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws
-/// after the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing.
+/// after the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing. With
+/// Look::standard_wire it issues only the calls that take effect by the standard.
 class PulseWire final : public kore::Entity, public BlinkingWireframe {
 public:
-    /// Environment variable; set to anything but "" or "0", it makes the wire issue only the calls that take effect by
-    /// the standard, so that the picture is the standard's on every driver.
-    static constexpr char const* standard_calls_variable = "HARDSILENCE_WIRE";
-
     /// Loads "torus2.asc" into the library and takes its object "torus2"; where that fails nothing is drawn.
     /// @param spline  the path, which must hold a point; points added later still count
     PulseWire(std::shared_ptr<kore::CatmullRom> spline, kore::AscModel_ptr models);

@@ -1,7 +1,5 @@
 #include "runtime/beatclock.h"
 
-float beat2seconds(int bpm, int n) { return static_cast<float>(n) * 60.0f / (static_cast<float>(bpm) * 4.0f); }
-
 void BeatClock::Count(kore::StateData& state) {
     if (state.time >= last_beat_time + beat_length) {
         state.beat_count += 1;

@@ -5,10 +5,13 @@
 /// Length of n quarter beats: n x 60 / (bpm x 4), in float. With n = 4 the length of one beat.
 /// @param bpm  beats per minute, above 0
 /// @return seconds
-float beat2seconds(int bpm, int n);
+constexpr float beat2seconds(int bpm, int n) {
+    return static_cast<float>(n) * 60.0f / (static_cast<float>(bpm) * 4.0f);
+}
 
-/// The show's tempo and its beat.
+/// The show's tempo, and the length of its beat in seconds.
 constexpr int beats_per_minute = 132;
+constexpr float beat_seconds = beat2seconds(beats_per_minute, 4);
 
 /// Turns show time into whole beats.
 class BeatClock {

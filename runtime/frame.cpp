@@ -22,9 +22,8 @@ void init_gl() {
     glMatrixMode(GL_MODELVIEW);
 }
 
-void draw_frame(kore::Demo& demo, kore::StateData const& state, DebugCamera const& view) {
+void draw_frame(kore::Demo& demo, DebugCamera const& view) {
     glLoadIdentity();
     if (view.IsFree()) view.Apply();
-    demo.UpdateLogic(state);
     demo.Draw(!view.IsFree());
 }

@@ -8,7 +8,6 @@
 /// picture is stretched. The projection is never changed afterwards.
 void init_gl();
 
-/// Updates and draws one frame on the current context. The whole picture is a function of the demo and the state.
-/// @param state  time and beats of the show
-/// @param view   where it is free, the view that stands in for the scenes' cameras
-void draw_frame(kore::Demo& demo, kore::StateData const& state, DebugCamera const& view);
+/// Draws the demo as its last update has left it, on the current context.
+/// @param view  where it is free, the view that stands in for the scenes' cameras
+void draw_frame(kore::Demo& demo, DebugCamera const& view);

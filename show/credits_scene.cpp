@@ -13,6 +13,7 @@ constexpr int length = pattern_beats * repeat_count;
 // Which of the three dancers is seen on which beat, and the long flicker in which the type can be read.
 // clang-format off
 constexpr BlinkRow butt_blinks[] = {
+    // beat type           value
     {0.05f, Blink::Solid,  1},
     {0.05f, Blink::Strobe, 48},
     {4,     Blink::Solid,  0},
@@ -27,6 +28,7 @@ constexpr BlinkRow butt_blinks[] = {
 };
 
 constexpr BlinkRow side_blinks[] = {
+    // beat type        value
     {4,  Blink::Solid,  1},
     {5,  Blink::Solid,  0},
     {7,  Blink::Solid,  1},
@@ -41,6 +43,7 @@ constexpr BlinkRow side_blinks[] = {
 };
 
 constexpr BlinkRow stretched_blinks[] = {
+    // beat type        value
     {5,  Blink::Solid,  1},
     {6,  Blink::Solid,  0},
     {8,  Blink::Solid,  1},
@@ -74,8 +77,8 @@ std::shared_ptr<effect::Blinker> make_blinker(std::span<BlinkRow const> rows, fl
     auto blinker = std::make_shared<effect::Blinker>();
     for (int r = 0; r < repeat_count; ++r) {
         for (BlinkRow const& row : rows) {
-            blinker->AddEntry((pattern_beats * beat) * static_cast<float>(r) + row.at * beat, beat + beat, row.type,
-                              row.value);
+            add_blink(*blinker, (pattern_beats * beat) * static_cast<float>(r) + row.at * beat, row.type, row.value,
+                      beat);
         }
     }
     return blinker;
@@ -84,26 +87,24 @@ std::shared_ptr<effect::Blinker> make_blinker(std::span<BlinkRow const> rows, fl
 } // namespace
 
 std::shared_ptr<kore::Scene> credits_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Credits");
+    auto scene = std::make_shared<kore::Scene>(title_of(credits_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 4.8f});
 
-    auto background = make_background(0, beat);
+    auto background = make_background(black, beat);
 
     for (Dancer const& dancer : dancers) {
         auto blinker = make_blinker(dancer.blinks, beat);
         auto model = std::make_shared<effect::SimpleModel>(models, dancer.name, "");
         model->DrawSolid(dancer.seen_first);
-        model->SetColor(1);
         model->DrawWireframe(false);
         model->SetRot({0, dancer.turn, 0});
-        model->SetPos({0, 0, 0});
         blinker->Add(model);
         blinker->Add(background);
         // clang-format off
         Cue const cues[] = {
-            //  who      from for     view
+            // who    from for   view
             {blinker, 0, length, in_camera_view},
             {model,   0, length, in_camera_view},
         };
@@ -112,14 +113,14 @@ std::shared_ptr<kore::Scene> credits_scene(float const& beat) {
     }
 
     auto text = std::make_shared<effect::SimpleModel>(models, "credits", "");
-    text->SetColor(0);
-    text->DrawSolid(true);
+    text->SetColor(black);
     text->DrawWireframe(false);
     text->SetScale({0.3f, 0.3f, 0.3f});
     text->SetPos({-1.5f, 1.5f, 2.0f});
 
     // clang-format off
     Cue const cues[] = {
+        // who       from for   view
         {text,       0, length, in_camera_view},
         {background, 0, length, fixed_view},
     };

@@ -16,7 +16,7 @@ constexpr int length = 64; // beats
 std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     using Route = kore::SmoothPositioner;
     using Look = kore::SmoothCam;
-    auto scene = std::make_shared<kore::Scene>("Fountain");
+    auto scene = std::make_shared<kore::Scene>(title_of(fountain_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 1200});
@@ -31,16 +31,15 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto look = std::make_shared<Look>();
     look->AddPos(Look::SMOOTH, beat * 32, beat * 32, {0, 0, 500});
 
-    auto background = make_background(1, beat);
+    auto background = make_background(white, beat);
     auto fountain = std::make_shared<effect::TorusFountain>(models);
-    fountain->SetColor(1);
     auto spin = std::make_shared<kore::StaticRotator>();
     spin->SetSpin({30, 90, 50});
     blinkers[0]->Add(fountain);
 
     // clang-format off
     Cue const cues[] = {
-        //  who         from for     view            moved by
+        // who       from for   view            moved by
         {background, 0, length, fixed_view,     {}},
         {fountain,   0, length, in_camera_view, {spin}},
     };

@@ -23,10 +23,7 @@ Cue make_greeting(char const* name, unsigned int k, float beat) {
     using Route = kore::RoutePositioner;
     auto greeting = std::make_shared<effect::SimpleModel>(models, name, "");
     greeting->SetScale({7, 7, 7});
-    greeting->SetColor(1);
     greeting->SetRot({90, 0, 0});
-    greeting->DrawWireframe(true);
-    greeting->SetPos({0, 0, 0});
 
     auto tumble = std::make_shared<kore::StaticRotator>();
     tumble->SetSpin({100, 10, 0});
@@ -41,7 +38,7 @@ Cue make_greeting(char const* name, unsigned int k, float beat) {
 } // namespace
 
 std::shared_ptr<kore::Scene> greets_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Greets");
+    auto scene = std::make_shared<kore::Scene>(title_of(greets_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({-0.2f, -33.8f, 0.1f});
@@ -49,14 +46,13 @@ std::shared_ptr<kore::Scene> greets_scene(float const& beat) {
 
     auto const blinkers = add_four_blinkers(*scene, length, beat);
 
-    auto background = make_background(1, beat);
+    auto background = make_background(white, beat);
     auto fountain = std::make_shared<effect::TorusFountain>(models);
-    fountain->SetColor(1);
     blinkers[0]->Add(fountain);
 
     // clang-format off
     Cue const cues[] = {
-        //  who         from for     view
+        // who       from for   view
         {background, 0, length, fixed_view},
         {fountain,   0, length, in_camera_view},
     };

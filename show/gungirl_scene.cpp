@@ -1,5 +1,5 @@
 #include "show/score.h"
-#include "show/set.h"
+#include "show/scatter.h"
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
@@ -14,6 +14,7 @@ constexpr int length = 48; // beats
 
 // clang-format off
 constexpr BlinkRow blinks[] = {
+    // beat type        value
     {0,  Blink::Break,  1},  // the pieces close in
     {4,  Blink::Strobe, 56}, // and are whole
     {16, Blink::Flip,   1},
@@ -28,7 +29,7 @@ constexpr BlinkRow blinks[] = {
 std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
     using Route = kore::RoutePositioner;
     using Look = kore::SmoothCam;
-    auto scene = std::make_shared<kore::Scene>("Gun Girl");
+    auto scene = std::make_shared<kore::Scene>(title_of(gungirl_scene));
 
     // The legs for eight beats, then, in one step, the upper half.
     auto camera = std::make_shared<effect::Camera>();
@@ -44,32 +45,29 @@ std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
     add_blinks(*blinker, blinks, beat);
 
     auto silhouette = std::make_shared<effect::SimpleModel>(models, "gungirl_silhouette", "");
-    silhouette->SetColor(0);
+    silhouette->SetColor(black);
     silhouette->DrawWireframe(false);
-    silhouette->SetPos({0, 0, 0});
     blinker->Add(silhouette);
 
     auto pieces = std::make_shared<effect::BrokenModel>(models, "gungirl_silhouette", "");
-    pieces->SetColor(0);
-    pieces->DrawWireframe(true);
+    pieces->SetColor(black);
     pieces->SetDirection(1);
     pieces->SetTransitionTime(4 * beat);
-    Set set(10, 0.1f); // they turn a lot and hardly leave their places
-    pieces->ResetValues(&set);
-    pieces->SetPos({0, 0, 0});
+    Scatter scatter(10, 0.1f); // they turn a lot and hardly leave their places
+    pieces->ResetValues(&scatter);
     blinker->Add(pieces);
 
     auto gyro = std::make_shared<effect::GyroFuck>(models);
-    gyro->SetColor(0);
+    gyro->SetColor(black);
     gyro->SetPos({0, 0, -90});
     blinker->Add(gyro);
 
-    auto background = make_background(1, beat);
+    auto background = make_background(white, beat);
     blinker->Add(background);
 
     // clang-format off
     Cue const cues[] = {
-        //  who         from for     view
+        // who       from for   view
         {silhouette, 4, 44,     in_camera_view},
         {pieces,     0, 4,      in_camera_view},
         {gyro,       8, 40,     in_camera_view},

@@ -14,6 +14,7 @@ constexpr int length = 16; // beats
 // The glass breaks.
 // clang-format off
 constexpr BlinkRow glass_blinks[] = {
+    // beat  type           value
     {12.25f, Blink::Break,  1},
     {12.25f, Blink::Strobe, 2},
     {14.0f,  Blink::Strobe, 2},
@@ -42,12 +43,9 @@ std::shared_ptr<effect::ShowModel> make_word(Word const& word, int k, float beat
     auto model = std::make_shared<effect::ShowModel>(models, word.name, "");
     model->SetStartTime(static_cast<float>(k) * beat);
     model->SetScale({word.scale, word.scale, word.scale});
-    model->SetStartPos({0, 5, 0});
-    model->SetEndPos({0, 0, 0});
     model->SetTransitionSpeed(0.25f * beat);
     model->SetShowTime(0.75f * beat);
-    model->SetColor(0);
-    model->DrawWireframe(true);
+    model->SetColor(black);
     return model;
 }
 
@@ -66,7 +64,7 @@ std::shared_ptr<kore::RoutePositioner> make_tag_route(float beat) {
 } // namespace
 
 std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Intro");
+    auto scene = std::make_shared<kore::Scene>(title_of(intro_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({-0.15f, 0, 1.4f});
@@ -78,12 +76,12 @@ std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
     // A strobe a quarter beat after each of the first eight beats.
     auto word_blinker = std::make_shared<effect::Blinker>();
     for (unsigned int i = 0; i <= 7; ++i) {
-        word_blinker->AddEntry(beat * static_cast<float>(i) + 0.25f * beat, beat + beat, Blink::Strobe, 6);
+        add_blink(*word_blinker, beat * static_cast<float>(i) + 0.25f * beat, Blink::Strobe, 6, beat);
     }
 
     // clang-format off
     Cue const blinkers[] = {
-        //              who            from  for     view
+        // who          from for   view
         {glass_blinker, 0, length, in_camera_view},
         {word_blinker,  0, length, in_camera_view},
     };
@@ -100,26 +98,23 @@ std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
     }
 
     auto tag = std::make_shared<effect::SimpleModel>(models, "QUILLONx", "");
-    tag->SetColor(0);
-    tag->DrawWireframe(true);
+    tag->SetColor(black);
     tag->SetScale({0.065f, 0.065f, 0.065f});
     auto tag_spin = std::make_shared<kore::StaticRotator>();
-    tag_spin->SetRot({0, 0, 0});
     tag_spin->SetSpin({5, -7, 1});
     glass_blinker->Add(tag);
 
     auto glass = std::make_shared<effect::BrokenModel>(models, "glass", "");
     glass->DrawWireframe(false);
     glass->SetPos({0, 0, -1.5f});
-    glass->SetColor(1);
     glass_blinker->Add(glass);
 
-    auto background = make_background(1, beat);
+    auto background = make_background(white, beat);
     glass_blinker->Add(background);
 
     // clang-format off
     Cue const cues[] = {
-        //  who         from  for     view            moved by
+        // who       from for    view            moved by
         {tag,        7,  9,      in_camera_view, {tag_spin, make_tag_route(beat)}},
         {glass,      10, 6,      in_camera_view, {}},
         {background, 0,  length, fixed_view,     {}},

@@ -10,6 +10,7 @@ constexpr int length = 32; // beats
 
 // clang-format off
 constexpr BlinkRow blinks[] = {
+    // beat type        value
     {0,  Blink::Strobe, 9000}, // longer than the scene
     {28, Blink::Strobe, 9000},
     {0,  Blink::Break,  1},    // Deliberate: nothing here reacts to it
@@ -34,9 +35,7 @@ constexpr Title titles[] = {
 
 std::shared_ptr<effect::SimpleModel> make_title(Title const& title) {
     auto model = std::make_shared<effect::SimpleModel>(models, title.name, "");
-    model->SetColor(1);
     model->DrawWireframe(false);
-    model->DrawSolid(true);
     model->SetScale({title.scale, title.scale, title.depth});
     model->SetPos({0, title.y, 10});
     return model;
@@ -45,23 +44,21 @@ std::shared_ptr<effect::SimpleModel> make_title(Title const& title) {
 } // namespace
 
 std::shared_ptr<kore::Scene> plasma_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Plasma");
+    auto scene = std::make_shared<kore::Scene>(title_of(plasma_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 31});
-    camera->SetLookPos({0, 0, 0});
 
     auto blinker = std::make_shared<effect::Blinker>();
     add_blinks(*blinker, blinks, beat);
 
     // The ground keeps still: only the titles are given to the blinker.
-    auto background = make_background(0, beat);
+    auto background = make_background(black, beat);
     auto mountain = std::make_shared<effect::TextureMountain>();
-    mountain->SetPos({0, 0, 0});
 
     // clang-format off
     Cue const ground[] = {
-        //  who         from for     view
+        // who       from for   view
         {background, 0, length, fixed_view},
         {mountain,   0, length, in_camera_view},
     };

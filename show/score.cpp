@@ -1,7 +1,11 @@
 #include "show/score.h"
 
+void add_blink(effect::Blinker& blinker, float at, Blink::BlinkerType type, int value, float beat) {
+    blinker.AddEntry(at, beat + beat, type, value);
+}
+
 void add_blinks(effect::Blinker& blinker, std::span<BlinkRow const> rows, float beat) {
-    for (BlinkRow const& row : rows) blinker.AddEntry(beat * row.at, beat + beat, row.type, row.value);
+    for (BlinkRow const& row : rows) add_blink(blinker, beat * row.at, row.type, row.value, beat);
 }
 
 std::shared_ptr<kore::Enabler> make_enabler(Cue const& cue, float beat) {

@@ -18,6 +18,15 @@ using Blink = kore::BlinkerInterface;
 constexpr bool in_camera_view = true;
 constexpr bool fixed_view = false;
 
+/// Grey levels of an effect's main colour; the contrasting one follows from it.
+constexpr int black = 0;
+constexpr int white = 1;
+
+/// Schedules one event, which has two beats' time to find a frame.
+/// @param at    seconds since the scene's first beat
+/// @param beat  length of one beat, seconds
+void add_blink(effect::Blinker& blinker, float at, Blink::BlinkerType type, int value, float beat);
+
 /// One event of a blinker.
 struct BlinkRow {
     float at; ///< beats since the scene's first beat
@@ -25,7 +34,7 @@ struct BlinkRow {
     int value;
 };
 
-/// Schedules rows in their order, each with a window of two beats.
+/// Schedules rows in their order.
 /// @param beat  length of one beat, seconds
 void add_blinks(effect::Blinker& blinker, std::span<BlinkRow const> rows, float beat);
 
@@ -45,5 +54,5 @@ void add_cues(kore::Scene& scene, std::span<Cue const> cues, float beat);
 std::shared_ptr<kore::Enabler> make_enabler(Cue const& cue, float beat);
 
 /// The wall that closes every scene, far behind it; a flip takes two beats.
-/// @param color  0 black tiles, 1 white
+/// @param color  black or white tiles
 std::shared_ptr<effect::FlashBackground> make_background(int color, float beat);

@@ -19,9 +19,9 @@ struct Shell {
 
 // clang-format off
 constexpr Shell shells[] = {
-    {"hollowsoccerball", 20,  0, 1, {-30, -90, -50}},
-    {"frameoctoball",    30,  1, 2, {10, 30, -20}},
-    {"frameicosahedron", 150, 0, 3, {-40, -30, 20}},
+    {"hollowsoccerball", 20,  black, 1, {-30, -90, -50}},
+    {"frameoctoball",    30,  white, 2, {10, 30, -20}},
+    {"frameicosahedron", 150, black, 3, {-40, -30, 20}},
 };
 // clang-format on
 
@@ -32,7 +32,7 @@ FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat) {
     for (std::size_t b = 0; b < blinkers.size(); ++b) {
         blinkers[b] = std::make_shared<effect::Blinker>();
         for (unsigned int i = 0; i <= 15; ++i) {
-            blinkers[b]->AddEntry(beat * static_cast<float>(4 * i) + offsets[b] * beat, beat + beat, Blink::Strobe, 4);
+            add_blink(*blinkers[b], beat * static_cast<float>(4 * i) + offsets[b] * beat, Blink::Strobe, 4, beat);
         }
     }
     for (auto const& blinker : blinkers) scene.AddEnabler(make_enabler({blinker, 0, length, in_camera_view}, beat));
@@ -44,8 +44,6 @@ void add_shells(kore::Scene& scene, FourBlinkers const& blinkers, int length, fl
         auto model = std::make_shared<effect::SimpleModel>(models, shell.name, "");
         model->SetScale({shell.scale, shell.scale, shell.scale});
         model->SetColor(shell.color);
-        model->DrawWireframe(true);
-        model->SetPos({0, 0, 0});
         auto spin = std::make_shared<kore::StaticRotator>();
         spin->SetSpin({shell.spin[0], shell.spin[1], shell.spin[2]});
         scene.AddEnabler(make_enabler({model, 0, length, in_camera_view, {spin}}, beat));

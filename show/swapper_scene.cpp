@@ -1,5 +1,5 @@
 #include "show/score.h"
-#include "show/set.h"
+#include "show/scatter.h"
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
@@ -25,23 +25,19 @@ std::shared_ptr<kore::StaticRotator> make_spin(kore::Vector3<float> const& spin)
 
 std::shared_ptr<effect::BrokenModel> make_shape(char const* name, float beat) {
     auto shape = std::make_shared<effect::BrokenModel>(models, name, "");
-    shape->SetColor(0);
-    shape->DrawWireframe(true);
+    shape->SetColor(black);
     shape->KeepWireframe(true);
     shape->SetDirection(1);
     shape->SetTransitionTime(4 * beat);
-    Set set(10, 3.5f);
-    shape->ResetValues(&set);
-    shape->SetPos({0, 0, 0});
+    Scatter scatter(10, 3.5f);
+    shape->ResetValues(&scatter);
     return shape;
 }
 
 std::shared_ptr<effect::BrokenModel> make_ball() {
     auto ball = std::make_shared<effect::BrokenModel>(models, "frameoctoball", "");
-    Set set(0.1f, 0.1f); // it only trembles
-    ball->ResetValues(&set);
-    ball->SetColor(1);
-    ball->DrawWireframe(true);
+    Scatter scatter(0.1f, 0.1f); // it only trembles
+    ball->ResetValues(&scatter);
     ball->KeepWireframe(true);
     ball->DrawSolid(false);
     ball->SetScale({19, 19, 19});
@@ -51,9 +47,8 @@ std::shared_ptr<effect::BrokenModel> make_ball() {
 
 std::shared_ptr<effect::SimpleModel> make_gun() {
     auto gun = std::make_shared<effect::SimpleModel>(models, "gun_silhouette", "");
-    gun->SetColor(0);
+    gun->SetColor(black);
     gun->DrawWireframe(false);
-    gun->DrawSolid(true);
     gun->SetScale({12, 12, 1});
     gun->SetPos({40, -40, -100});
     return gun;
@@ -62,14 +57,14 @@ std::shared_ptr<effect::SimpleModel> make_gun() {
 } // namespace
 
 std::shared_ptr<kore::Scene> swapper_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Swapper");
+    auto scene = std::make_shared<kore::Scene>(title_of(swapper_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 20});
 
     auto blinker = std::make_shared<effect::Blinker>();
     auto const blink = [&](unsigned int at, Blink::BlinkerType type, int value) {
-        blinker->AddEntry(beat * static_cast<float>(at), beat + beat, type, value);
+        add_blink(*blinker, beat * static_cast<float>(at), type, value, beat);
     };
     blink(15, Blink::Strobe, 16);
     blink(16, Blink::Strobe, 16);
@@ -77,7 +72,7 @@ std::shared_ptr<kore::Scene> swapper_scene(float const& beat) {
     unsigned int k = 0;
     for (char const* name : shapes) {
         blink(8 * k, Blink::Break, 1);
-        blink((k << 4) + 4, Blink::Strobe, 4);
+        blink(shape_beats * k + 4, Blink::Strobe, 4);
         auto shape = make_shape(name, beat);
         blinker->Add(shape);
         int const from = shape_beats * static_cast<int>(k);
@@ -91,12 +86,12 @@ std::shared_ptr<kore::Scene> swapper_scene(float const& beat) {
     blinker->Add(gun);
     auto ball = make_ball();
     blinker->Add(ball);
-    auto background = make_background(1, beat);
+    auto background = make_background(white, beat);
     blinker->Add(background);
 
     // clang-format off
     Cue const cues[] = {
-        //  who         from for     view            moved by
+        // who       from for   view            moved by
         {gun,        0, length, fixed_view,     {}},
         {ball,       0, length, in_camera_view, {make_spin({90, 30, 50})}},
         {background, 0, length, fixed_view,     {}},

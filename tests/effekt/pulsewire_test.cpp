@@ -1,9 +1,9 @@
 #include "effekt/pulsewire.h"
 
 #include "tests/effekt/support.h"
+#include "tests/support/withlook.h"
 
 #include <GL/gl.h>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -20,14 +20,12 @@ constexpr std::size_t calls_of_a_torus = 10;
 class PulseWire : public effect_test::EffectTest {
 protected:
     void SetUp() override {
-        unsetenv("HARDSILENCE_WIRE");
         WriteMesh("torus2.asc", "torus2");
         for (float const z : {0.f, 10.f, 30.f, 35.f}) spline->AddSplinePoint({1, -z, z});
     }
-    void TearDown() override { unsetenv("HARDSILENCE_WIRE"); }
 
-    std::unique_ptr<effect::PulseWire> Wire(char const* variable = nullptr) {
-        if (variable) setenv("HARDSILENCE_WIRE", variable, 1);
+    std::unique_ptr<effect::PulseWire> Wire(bool standard = false) {
+        support::WithLook const look({.standard_wire = standard});
         kore::AscModel_ptr const models = Library();
         auto wire = std::make_unique<effect::PulseWire>(spline, models);
         NameLists(*models, "torus2");
@@ -56,33 +54,25 @@ protected:
 };
 
 TEST_F(PulseWire, IssuesTheWholeWireInsideOnePrimitive) {
-    for (char const* const variable : {static_cast<char const*>(nullptr), "", "0"}) {
-        SCOPED_TRACE(variable ? variable : "not set");
-        gl::reset();
-        auto const wire = Wire(variable);
-        EXPECT_STREQ(wire->Name(), "PulseWire");
-        Draw(*wire);
-        std::string expected = "Begin(QUADS) ";
-        for (int i = 0; i < tori; ++i) expected += Torus(i);
-        EXPECT_EQ(gl::calls(), expected + "End");
-        EXPECT_EQ(gl::call_count(), 2 + tori * calls_of_a_torus);
-    }
+    auto const wire = Wire();
+    EXPECT_STREQ(wire->Name(), "PulseWire");
+    Draw(*wire);
+    std::string expected = "Begin(QUADS) ";
+    for (int i = 0; i < tori; ++i) expected += Torus(i);
+    EXPECT_EQ(gl::calls(), expected + "End");
+    EXPECT_EQ(gl::call_count(), 2 + tori * calls_of_a_torus);
 }
 
 TEST_F(PulseWire, IssuesOnlyWhatTheStandardLeavesEffectiveWhenAsked) {
-    for (char const* const variable : {"1", "yes", "00"}) {
-        SCOPED_TRACE(variable);
-        gl::reset();
-        auto const wire = Wire(variable);
-        gl::name_list(3, "corners");
-        EXPECT_EQ("Begin(TRIANGLES) " + gl::list_content(3) + " End", effect_test::mesh_faces);
-        Draw(*wire);
-        std::string expected = "Begin(QUADS) Color(1,1,1) CallList(corners) End Color(0,0,0) CallList(torus2-lines) "
-                               "PopMatrix PopMatrix ";
-        for (int i = 1; i < tori; ++i) expected += Torus(i);
-        EXPECT_EQ(gl::calls() + ' ', expected);
-        EXPECT_THAT(gl::errors(), testing::IsEmpty());
-    }
+    auto const wire = Wire(true);
+    gl::name_list(3, "corners");
+    EXPECT_EQ("Begin(TRIANGLES) " + gl::list_content(3) + " End", effect_test::mesh_faces);
+    Draw(*wire);
+    std::string expected = "Begin(QUADS) Color(1,1,1) CallList(corners) End Color(0,0,0) CallList(torus2-lines) "
+                           "PopMatrix PopMatrix ";
+    for (int i = 1; i < tori; ++i) expected += Torus(i);
+    EXPECT_EQ(gl::calls() + ' ', expected);
+    EXPECT_THAT(gl::errors(), testing::IsEmpty());
 }
 
 TEST_F(PulseWire, TakesTheFirstCornersFromItsOwnObjectOfTheFile) {
@@ -97,7 +87,7 @@ TEST_F(PulseWire, TakesTheFirstCornersFromItsOwnObjectOfTheFile) {
                                                                    "Face 0:    A:0 B:0 C:0 AB:1 BC:1 CA:1\r\n"
                                                                    "\r\n"
                                                                 << torus.str();
-    auto const wire = Wire("1");
+    auto const wire = Wire(true);
     EXPECT_EQ("Begin(TRIANGLES) " + gl::list_content(5) + " End", effect_test::mesh_faces);
 }
 
@@ -109,7 +99,7 @@ TEST_F(PulseWire, LeavesTheFirstTorusOutWhereItsFileDoesNotHoldIt) {
         models->LoadModel("torus2.asc"); // the model is there, and then its file is another
         std::filesystem::remove(Root() / "data/torus2.asc");
         if (*object) WriteMesh("torus2.asc", object);
-        setenv("HARDSILENCE_WIRE", "1", 1);
+        support::WithLook const look(support::standard_wire);
         testing::internal::CaptureStdout();
         effect::PulseWire wire(spline, models);
         EXPECT_EQ(testing::internal::GetCapturedStdout().empty(), *object != 0);
@@ -126,7 +116,7 @@ TEST_F(PulseWire, HasTheSameEffectByTheStandardWithBothStreams) {
     gl::Matrix left[2];
     for (int const standard : {0, 1}) {
         gl::reset();
-        auto const wire = Wire(standard == 1 ? "1" : "0");
+        auto const wire = Wire(standard == 1);
         glTranslatef(1, 2, 3);
         glPushMatrix();
         glRotatef(30, 1, 1, 0);
@@ -153,10 +143,10 @@ TEST_F(PulseWire, HasTheSameEffectByTheStandardWithBothStreams) {
 }
 
 TEST_F(PulseWire, TakesTwoMatricesOfOthersAway) {
-    for (char const* const variable : {"0", "1"}) {
-        SCOPED_TRACE(variable);
+    for (bool const standard : {false, true}) {
+        SCOPED_TRACE(standard);
         gl::reset();
-        auto const wire = Wire(variable);
+        auto const wire = Wire(standard);
         glTranslatef(0, 0, -7); // the camera
         glPushMatrix();
         gl::clear_log();
@@ -169,7 +159,7 @@ TEST_F(PulseWire, TakesTwoMatricesOfOthersAway) {
 }
 
 TEST_F(PulseWire, ThreadsTheToriOnTheSplineLeavingOutItsEnd) {
-    auto const wire = Wire("1");
+    auto const wire = Wire(true);
     Draw(*wire);
     for (int i = 1; i < tori; ++i) {
         kore::Vector3<float> const p = spline->GetSplinePoint(static_cast<float>(i) / 99);
@@ -193,7 +183,7 @@ TEST_F(PulseWire, FollowsPointsThatAreAddedLater) {
 TEST_F(PulseWire, StandsInOnePlaceOnASplineOfOnePoint) {
     spline = std::make_shared<kore::CatmullRom>();
     spline->AddSplinePoint({4, 5, 6});
-    auto const wire = Wire("1");
+    auto const wire = Wire(true);
     Draw(*wire);
     for (std::size_t i = 2; i < std::size_t{2} * tori; ++i) {
         auto const place = gl::transform(gl::draws()[i].model_view, 0, 0, 0);
@@ -217,10 +207,10 @@ TEST_F(PulseWire, DoesNotMoveByItselfAndDrawsBothWhateverTheFlagsSay) {
 }
 
 TEST_F(PulseWire, StrobesFacesAgainstLinesInBothStreams) {
-    for (char const* const variable : {"0", "1"}) {
-        SCOPED_TRACE(variable);
+    for (bool const standard : {false, true}) {
+        SCOPED_TRACE(standard);
         gl::reset();
-        auto const wire = Wire(variable);
+        auto const wire = Wire(standard);
         wire->Blink(Type::Strobe, 2);
         for (bool const swapped : {true, false, true, false, false}) { // counts 4, 3, 2, 1, 0
             wire->UpdateLogic(state_at(0));
@@ -237,16 +227,16 @@ TEST_F(PulseWire, StrobesFacesAgainstLinesInBothStreams) {
 }
 
 TEST_F(PulseWire, DrawsNoListWithoutItsModel) {
-    for (char const* const variable : {"0", "1"}) {
+    for (bool const standard : {false, true}) {
         for (char const* const what : {"another object", "no file"}) {
-            SCOPED_TRACE(testing::Message() << "variable " << variable << ", " << what);
+            SCOPED_TRACE(testing::Message() << "standard " << standard << ", " << what);
             gl::reset();
             if (what == std::string("another object")) {
                 WriteMesh("torus2.asc", "other");
             } else {
                 std::filesystem::remove(Root() / "data/torus2.asc");
             }
-            setenv("HARDSILENCE_WIRE", variable, 1);
+            support::WithLook const look({.standard_wire = standard});
             testing::internal::CaptureStdout();
             effect::PulseWire wire(spline, Library());
             testing::internal::GetCapturedStdout(); // the library's error line

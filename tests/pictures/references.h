@@ -27,8 +27,8 @@ constexpr Reference references[] = {
     {"swapper",  77000, false}, // debris
     {"credits",  5500,  false}, // a dancer
     {"credits",  8200,  false}, // the type, in the flicker
-    {"wire",     500,   false}, // the tunnel
-    {"wire",     52000, false}, // in the flash
+    {"tunnelgate",     500,   false}, // the tunnel
+    {"tunnelgate",     52000, false}, // in the flash
     {"plasma",   0,     false}, // white type
     {"plasma",   10000, true},  // black type
     {"fountain", 20000, false}, // the jewel

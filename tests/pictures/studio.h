@@ -1,13 +1,12 @@
 #pragma once
 
-#include "effekt/pulsewire.h"
+#include "runtime/frame.h"
+#include "runtime/playback.h"
+#include "tests/support/withlook.h"
 #include "tools/record/framebuffer.h"
 #include "tools/record/offscreen.h"
-#include "tools/record/playback.h"
-#include "tools/record/runningorder.h"
+#include "tools/record/timetable.h"
 
-#include <cstdlib>
-#include <optional>
 #include <string>
 
 /// A show of one's own, off-screen, with the pulse wire visible on every driver.
@@ -17,26 +16,29 @@ struct Studio {
 
     OffscreenContext context;
     Framebuffer framebuffer;
-    std::optional<Playback> playback;
-    RunningOrder order;
+    kore::Demo demo{beat_seconds};
+    Playback playback{demo, recorded_rate};
+    Timetable timetable;
 
     /// @return false where there is nothing to draw with
     bool Open() {
-        setenv(effect::PulseWire::standard_calls_variable, "1", 1);
         if (!context.Open() || !framebuffer.Create(width, height, 4)) return false;
-        playback.emplace();
-        order = running_order(playback->GetDemo());
+        init_gl();
+        support::WithLook const look(support::standard_wire);
+        init_demo(demo, nullptr, beat_seconds);
+        timetable = make_timetable(demo);
         return true;
     }
 
     /// The frame of a moment of a scene.
     int FrameOf(std::string const& scene, Millibeats at) const {
-        return frame_at(find_scene(order, scene)->Begin() + at);
+        return frame_at(find_scene(timetable, scene)->Begin() + at);
     }
 
     /// Plays up to a frame that has not been played yet.
     sf::Image Picture(int frame) {
-        playback->DrawFrame(frame);
+        playback.SkipTo(frame);
+        playback.Draw();
         return framebuffer.Read();
     }
 };

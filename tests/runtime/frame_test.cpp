@@ -1,6 +1,8 @@
 #include "kore/camera.h"
 #include "runtime/datafolder.h"
+#include "runtime/environment.h"
 #include "runtime/frame.h"
+#include "runtime/playback.h"
 #include "tests/support/glrecorder.h"
 #include "tests/support/temp.h"
 
@@ -42,31 +44,36 @@ protected:
         scene->AddCamera(std::make_shared<kore::Enabler>(camera, 0, 4, 1.0f, true));
         scene->AddEnabler(std::make_shared<kore::Enabler>(std::make_shared<Marker>(), 0, 4, 1.0f, true));
         demo.AddScene(scene);
-        state.beat_count = 0;
         glTranslatef(1, 2, 3); // left over by the frame before
         gl::clear_log();
     }
-    kore::Demo demo{1.0f};
-    kore::StateData state;
+    static constexpr float beat = 1; // seconds
+    kore::Demo demo{beat};
     DebugCamera view;
 };
 
-TEST_F(DrawFrame, UpdatesAndThenDrawsThroughTheScenesCamera) {
-    draw_frame(demo, state, view);
-    EXPECT_EQ(gl::calls(), "LoadIdentity LineWidth(7) PushMatrix ClearColor(0,0,0,0) Clear(COLOR|DEPTH) "
-                           "LookAt(0,0,10,0,0,0,0,1,0) LineWidth(8) PopMatrix");
+TEST_F(DrawFrame, DrawsThroughTheScenesCameraWhatTheUpdateHasLeft) {
+    Stepper stepper(demo, beat);
+    stepper.Update(0, 60);
+    EXPECT_EQ(gl::calls(), "LineWidth(7)");
+    gl::clear_log();
+    stepper.Draw(view);
+    EXPECT_EQ(gl::calls(), "LoadIdentity PushMatrix ClearColor(0,0,0,0) Clear(COLOR|DEPTH) LookAt(0,0,10,0,0,0,0,1,0) "
+                           "LineWidth(8) PopMatrix");
 }
 
 TEST_F(DrawFrame, LetsTheFreeCameraStandInForTheScenes) {
     view.ToggleFree();
-    draw_frame(demo, state, view);
-    EXPECT_EQ(gl::calls(), "LoadIdentity LookAt(0,0,0,0,0,-1,0,1,0) LineWidth(7) PushMatrix ClearColor(0,0,0,0) "
+    Playback(demo, 60, beat).Draw(view);
+    EXPECT_EQ(gl::calls(), "LineWidth(7) LoadIdentity LookAt(0,0,0,0,0,-1,0,1,0) PushMatrix ClearColor(0,0,0,0) "
                            "Clear(COLOR|DEPTH) LineWidth(8) PopMatrix");
 }
 
 TEST_F(DrawFrame, DrawsNothingOnceTheShowIsOver) {
-    state.beat_count = 4;
-    draw_frame(demo, state, view);
+    kore::StateData end;
+    end.beat_count = 4;
+    demo.UpdateLogic(end);
+    draw_frame(demo, view);
     EXPECT_EQ(gl::calls(), "LoadIdentity");
     EXPECT_TRUE(demo.GetFinished());
 }

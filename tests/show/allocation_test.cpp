@@ -1,3 +1,4 @@
+#include "tests/show/scores.h"
 #include "tests/show/wholeshow.h"
 #include "tests/support/allocations.h"
 
@@ -20,9 +21,7 @@ TEST(Allocation, IsCountedHereByEveryOperator) {
 
 TEST(Allocation, HappensInNoFrameAfterTheFirstOfAScene) {
     std::map<std::string, long> by_scene;
-    for (char const* name : {"Intro", "Gun Girl", "Swapper", "Credits", "Tunnelgate", "Plasma", "Fountain", "Greets"}) {
-        by_scene[name] = 0;
-    }
+    for (scores::Score const& score : scores::all()) by_scene[score.title] = 0;
     long before = 0;
     long frames = 0;
     wholeshow::play(

@@ -7,7 +7,7 @@ using testing::ElementsAreArray;
 
 namespace scenes {
 
-void expect_moments(stage::SceneFunction make, std::vector<Moment> const& moments, Names const& tail) {
+void expect_moments(SceneFunction make, std::vector<Moment> const& moments, Names const& tail) {
     Stage s(make);
     for (Moment const& moment : moments) {
         SCOPED_TRACE(testing::Message() << "beat " << moment.at);
@@ -18,7 +18,7 @@ void expect_moments(stage::SceneFunction make, std::vector<Moment> const& moment
     }
 }
 
-void expect_names(stage::SceneFunction make, double at, Names const& names) {
+void expect_names(SceneFunction make, double at, Names const& names) {
     SCOPED_TRACE(testing::Message() << "beat " << at);
     EXPECT_THAT(Stage(make).PlayTo(at).SeenNames(), ElementsAreArray(names));
 }

@@ -27,10 +27,10 @@ Names const white_wall = {"tile:1", "tile:0"};
 Names const black_wall = {"tile:0", "tile:1"};
 
 /// @param tail  drawn after that, at every moment
-void expect_moments(stage::SceneFunction make, std::vector<Moment> const& moments, Names const& tail);
+void expect_moments(SceneFunction make, std::vector<Moment> const& moments, Names const& tail);
 
 /// The same while a strobe runs: without colours.
-void expect_names(stage::SceneFunction make, double at, Names const& names);
+void expect_names(SceneFunction make, double at, Names const& names);
 
 /// The matrix that these calls make of the identity.
 gl::Matrix matrix_of(std::function<void()> const& calls);

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "kore/blinkerinterface.h"
-#include "tests/show/stage.h"
+#include "show/show.h"
 
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
-/// What every scene's timeline must be, in tables of the tests' own.
+/// The show once more, in tables of the tests' own: what is in its scenes, and when.
 namespace scores {
 
 using Type = kore::BlinkerInterface::BlinkerType;
@@ -33,15 +34,20 @@ struct Event {
 std::ostream& operator<<(std::ostream& out, Event const& e);
 
 struct Score {
-    char const* name;
-    stage::SceneFunction make;
-    int length;
+    char const* title;
+    SceneFunction make;
+    int length;           ///< beats
+    std::uint64_t calls;  ///< of OpenGL, over all frames of the scene at 60 frames a second
+    std::uint64_t stream; ///< their checksum, see callstream_test.cpp, which prints it where it differs
     std::vector<Window> windows;
     std::vector<std::vector<Event>> blinks;        ///< of each blinker, in the order of the enablers
     std::vector<std::vector<std::size_t>> targets; ///< of each blinker: indices of enablers
 };
 
-/// All eight, in their order.
+/// All scenes, in the order of the show.
 std::vector<Score> const& all();
+
+/// Length of the show.
+int total_beats();
 
 } // namespace scores

@@ -1,57 +1,37 @@
 #include "tests/show/stage.h"
 
+#include "kore/ascfile.h"
+
 #include <GL/gl.h>
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <set>
 #include <stdexcept>
 
 namespace stage {
 
 namespace {
 
-constexpr float frames_per_second = 60;
-
-constexpr char const* objects[] = {
-    "We",
-    "Know",
-    "What",
-    "Are",
-    "Doing",
-    "QUILLONx",
-    "glass",
-    "gungirl_silhouette",
-    "donut2",
-    "framecube",
-    "spikeydodecahedron",
-    "frameoctoball",
-    "infinity",
-    "maltanristi",
-    "frametetrahedron",
-    "gun_silhouette",
-    "credits",
-    "butt_silhouette",
-    "side2_silhouette",
-    "sideview_silhouette",
-    "torus2",
-    "tentacles_silhouette",
-    "QUILLONx-title",
-    "HARD-title",
-    "SILENCE-title",
-    "hollowsoccerball",
-    "frameicosahedron",
-    "Arbalest",
-    "Pixelherds",
-    "Lanternfly",
-    "Mirevolt",
-    "Quartzine",
-    "Tundrabeat",
-    "Obelisk_K",
-    "Heavy_Cart",
-};
-
 constexpr char const* tile = "Begin(QUADS) Vertex(-50,-50,0) Vertex(-50,50,0) Vertex(50,50,0) Vertex(50,-50,0) End";
 
 std::string name_of(gl::Draw const& draw) { return gl::list_content(draw.list) == tile ? "tile" : draw.name; }
+
+constexpr float frames_per_second = 60;
+
+/// The names of all objects in the files of data/.
+std::set<std::string> const& object_names() {
+    static std::set<std::string> const names = [] {
+        std::set<std::string> found;
+        for (auto const& entry : std::filesystem::directory_iterator("data")) {
+            kore::AscFile file;
+            if (entry.path().extension() != ".asc" || !file.Open(entry.path())) continue;
+            while (file.Next() == kore::AscFile::Result::Object) found.insert(file.GetName());
+        }
+        return found;
+    }();
+    return names;
+}
 
 template<typename Describe>
 std::vector<std::string> seen(Describe const& describe) {
@@ -66,7 +46,7 @@ std::vector<std::string> seen(Describe const& describe) {
 } // namespace
 
 void name_lists() {
-    for (std::string const name : objects) {
+    for (std::string const& name : object_names()) {
         unsigned int list = 0;
         if (models->ModelByName(name, list)) gl::name_list(list, name);
         if (models->WfByName(name, list)) gl::name_list(list, name + "/lines");
@@ -78,7 +58,7 @@ void name_lists() {
     }
 }
 
-Stage::Stage(SceneFunction make, float length) : demo(length), clock(length) {
+Stage::Stage(SceneFunction make, float length) : demo(length), playback(demo, frames_per_second, length) {
     gl::reset();
     models = std::make_shared<kore::AscModel>("data/");
     scene = make(length);
@@ -86,16 +66,9 @@ Stage::Stage(SceneFunction make, float length) : demo(length), clock(length) {
     name_lists();
 }
 
-void Stage::Step() {
-    state.time = static_cast<float>(frame++) / frames_per_second;
-    clock.Count(state);
-    demo.UpdateLogic(state);
-    state.new_beat = false;
-}
-
 Stage& Stage::PlayTo(double beats) {
     do Step();
-    while (static_cast<double>(state.time) < beats * static_cast<double>(beat));
+    while (static_cast<double>(Time()) < beats * static_cast<double>(beat));
     return *this;
 }
 

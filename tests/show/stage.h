@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kore/demo.h"
-#include "runtime/beatclock.h"
+#include "runtime/playback.h"
 #include "show/show.h"
 #include "tests/support/glrecorder.h"
 
@@ -12,9 +12,7 @@
 /// Plays scenes in virtual time, at 60 frames per second, and looks at what they draw.
 namespace stage {
 
-using SceneFunction = std::shared_ptr<kore::Scene> (*)(float const& beat);
-
-float const beat = beat2seconds(beats_per_minute, 4); // seconds
+constexpr float beat = beat_seconds;
 
 /// One scene by itself, with a model library of its own.
 class Stage {
@@ -31,7 +29,7 @@ public:
     Stage& PlayTo(double beats);
 
     /// Updates one frame.
-    void Step();
+    void Step() { playback.Skip(); }
 
     /// Draws the frame, after forgetting what was logged before.
     void Draw();
@@ -53,14 +51,12 @@ public:
     static gl::Draw const& Find(std::string const& name, std::size_t n = 0);
 
     /// Scene time of the last frame, seconds.
-    float Time() const { return state.time; }
+    float Time() const { return playback.State().time; }
 
 private:
     std::shared_ptr<kore::Scene> scene;
     kore::Demo demo;
-    BeatClock clock;
-    kore::StateData state;
-    int frame = 0;
+    Playback playback;
 };
 
 /// Gives the lists of the model library the names that Stage::Seen tells.

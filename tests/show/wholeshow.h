@@ -1,7 +1,6 @@
 #pragma once
 
-#include "runtime/beatclock.h"
-#include "runtime/frame.h"
+#include "runtime/playback.h"
 #include "show/show.h"
 
 #include <functional>
@@ -10,7 +9,7 @@
 /// Plays the whole show in virtual time, with the frame code of the program.
 namespace wholeshow {
 
-/// Tells when its scene starts, and clears as ever.
+/// Tells when its scene starts, and clears the picture as ever.
 class StartNotice final : public kore::ScenePrepare {
 public:
     explicit StartNotice(std::function<void()> notice_) : notice(std::move(notice_)) {}
@@ -31,9 +30,8 @@ struct Frame {
 /// @param after   called after each frame
 /// @return show beat of the end
 inline int play(float fps, std::function<void()> const& before, std::function<void(Frame const&)> const& after) {
-    float const beat = beat2seconds(beats_per_minute, 4);
-    kore::Demo demo(beat);
-    init_demo(demo, nullptr, beat);
+    kore::Demo demo(beat_seconds);
+    init_demo(demo, nullptr, beat_seconds);
     std::string scene;
     bool first = false;
     for (auto const& s : demo.GetScenes()) {
@@ -42,19 +40,14 @@ inline int play(float fps, std::function<void()> const& before, std::function<vo
             first = true;
         }));
     }
-    BeatClock clock(beat);
-    kore::StateData state;
-    DebugCamera const view;
-    for (int n = 0; !demo.GetFinished(); ++n) {
-        state.time = static_cast<float>(n) / fps;
-        clock.Count(state);
+    Playback playback(demo, fps);
+    while (!demo.GetFinished()) {
         before();
-        draw_frame(demo, state, view);
-        after({scene, state.beat_count, first});
+        playback.Draw();
+        after({scene, playback.State().beat_count, first});
         first = false;
-        state.new_beat = false;
     }
-    return state.beat_count;
+    return playback.State().beat_count;
 }
 
 } // namespace wholeshow

@@ -123,7 +123,7 @@ GLuint glGenLists(GLsizei range) {
 }
 
 void glNewList(GLuint list, GLenum mode) {
-    note("NewList", {static_cast<double>(list)}, word(mode));
+    note("NewList", {static_cast<double>(list)}, word(mode), &empty_sum);
     if (state().compiling || list == 0) return raise(list ? "INVALID_OPERATION" : "INVALID_VALUE", "NewList");
     state().lists[list] = List();
     state().compiling = list;
@@ -131,23 +131,25 @@ void glNewList(GLuint list, GLenum mode) {
 
 void glEndList() {
     bool const compiling = state().compiling != 0;
+    auto const compiled = state().lists.find(state().compiling);
     state().compiling = 0;
-    note("EndList");
+    note("EndList", {}, {}, compiling ? &compiled->second.sum : nullptr);
     if (!compiling) raise("INVALID_OPERATION", "EndList");
 }
 
 void glCallList(GLuint list) {
     State& s = state();
     auto const named = s.names.find(list);
-    bool const now =
-        named == s.names.end() ? note("CallList", {static_cast<double>(list)}) : note("CallList", {}, named->second);
+    auto const found = s.lists.find(list);
+    std::uint64_t const* const sum = found == s.lists.end() ? nullptr : &found->second.sum;
+    bool const now = named == s.names.end() ? note("CallList", {static_cast<double>(list)}, {}, sum)
+                                            : note("CallList", {}, named->second, sum);
     if (!now) return;
     if (s.logging == gl::Logging::Text) {
         std::string const name = named == s.names.end() ? std::to_string(list) : named->second;
         s.drawn.push_back({list, name, s.model_view.back(), s.color, s.in_primitive});
     }
     // Each command of the list acts as if issued here (OpenGL 1.1, section 5.4).
-    auto const found = s.lists.find(list);
     if (found == s.lists.end()) return;
     for (bool const opens : found->second.brackets) opens ? begin() : end();
 }

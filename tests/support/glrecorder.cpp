@@ -16,19 +16,20 @@ State& state() {
 
 namespace {
 
-constexpr std::uint64_t fnv_prime = 1099511628211ULL; // Fowler, Noll and Vo's hash, taken eight bytes at a time
-constexpr std::uint64_t fnv_offset = 14695981039346656037ULL;
+/// Adds eight bytes (after Fowler, Noll and Vo's FNV-1a, eight bytes at a time).
+void add(std::uint64_t& sum, std::uint64_t bits) {
+    constexpr std::uint64_t prime = 1099511628211ULL;
+    sum = ((sum ^ bits) * prime) ^ (sum >> 29);
+}
 
-void add_to_sum(std::string_view name, std::initializer_list<double> numbers, std::string_view words) {
-    std::uint64_t& sum = state().sum;
-    auto const add = [&sum](std::uint64_t bits) { sum = ((sum ^ bits) * fnv_prime) ^ (sum >> 29); };
-    for (char const c : name) add(static_cast<unsigned char>(c));
-    for (double const number : numbers) {
-        std::uint64_t bits = 0;
-        std::memcpy(&bits, &number, sizeof bits);
-        add(bits);
-    }
-    for (char const c : words) add(static_cast<unsigned char>(c));
+void add(std::uint64_t& sum, std::string_view text) {
+    for (char const c : text) add(sum, static_cast<unsigned char>(c));
+}
+
+void add(std::uint64_t& sum, double number) {
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    add(sum, bits);
 }
 
 std::string as_text(std::string_view name, std::initializer_list<double> numbers, std::string_view words) {
@@ -55,10 +56,18 @@ std::string joined(std::vector<std::string> const& calls) {
 
 } // namespace
 
-bool note(std::string_view name, std::initializer_list<double> numbers, std::string_view words) {
+bool note(std::string_view name, std::initializer_list<double> numbers, std::string_view words,
+          std::uint64_t const* list_sum) {
     State& s = state();
     ++s.count;
-    add_to_sum(name, numbers, words);
+    std::uint64_t& sum = s.compiling ? s.lists[s.compiling].sum : s.sum;
+    add(sum, name);
+    if (list_sum) {
+        add(sum, *list_sum);
+    } else {
+        for (double const number : numbers) add(sum, number);
+        add(sum, words);
+    }
     if (s.logging == Logging::Text) {
         auto& log = s.compiling ? s.lists[s.compiling].calls : s.log;
         log.push_back(as_text(name, numbers, words));
@@ -87,7 +96,7 @@ void clear_log() {
     state().drawn.clear();
     state().raised.clear();
     state().count = 0;
-    state().sum = detail::fnv_offset;
+    state().sum = detail::empty_sum;
 }
 
 std::string calls() { return detail::joined(state().log); }

@@ -40,7 +40,8 @@ std::string calls();
 /// The same, one entry a call.
 std::vector<std::string> const& call_list();
 
-/// How many calls, and a checksum of all of them with all arguments, bit by bit; in both kinds of logging.
+/// How many calls, and a checksum of all of them with all arguments, bit by bit; in both kinds of logging. A list
+/// counts by what it holds and not by its number.
 std::uint64_t call_count();
 std::uint64_t checksum();
 

@@ -12,9 +12,12 @@ namespace gl::detail {
 constexpr std::size_t stack_limit_model_view = 32; // the least that the standard grants
 constexpr std::size_t stack_limit_projection = 2;
 
+constexpr std::uint64_t empty_sum = 14695981039346656037ULL; // the offset basis of FNV-1a
+
 struct List {
     std::vector<std::string> calls; ///< as text (Logging::Text only)
     std::vector<bool> brackets;     ///< its glBegin (true) and glEnd (false) calls, in order
+    std::uint64_t sum = empty_sum;  ///< of its calls
 };
 
 struct State {
@@ -42,8 +45,10 @@ struct State {
 State& state();
 
 /// Logs one call, in the list under compilation if there is one.
+/// @param sum  for a call that names a list: what the list holds, which the checksum takes in the arguments' place
 /// @return true if it is to be executed now
-bool note(std::string_view name, std::initializer_list<double> numbers = {}, std::string_view words = {});
+bool note(std::string_view name, std::initializer_list<double> numbers = {}, std::string_view words = {},
+          std::uint64_t const* sum = nullptr);
 
 void raise(char const* error, std::string_view call);
 

@@ -10,10 +10,9 @@
 
 namespace {
 
-// frames : millibeats = 60 x rate : 1000 x tempo = 3 : 110
-constexpr int frames_part = 3;
-constexpr int beats_part = 110;
-static_assert(60 * recorded_rate * beats_part == one_beat * beats_per_minute * frames_part);
+// frames : millibeats = 60 x rate : 1000 x tempo
+constexpr long long frames_part = 60LL * recorded_rate;
+constexpr long long beats_part = 1LL * one_beat * beats_per_minute;
 
 constexpr std::size_t most_moments = 10000;
 
@@ -52,7 +51,7 @@ bool add_range(std::vector<Millibeats>& moments, std::vector<std::string> const&
 
 /// The frames on which the show's clock counts its beats.
 std::vector<int> frames_of_whole_beats() {
-    BeatClock clock(beat2seconds(beats_per_minute, 4));
+    BeatClock clock(beat_seconds);
     kore::StateData state;
     std::vector<int> frames;
     for (int frame = 0; state.beat_count < most_beats; ++frame) {
@@ -68,7 +67,7 @@ std::vector<int> frames_of_whole_beats() {
 
 int frame_at(Millibeats at) {
     static std::vector<int> const counted = frames_of_whole_beats();
-    int const nominal = (frames_part * at + beats_part - 1) / beats_part;
+    auto const nominal = static_cast<int>((frames_part * at + beats_part - 1) / beats_part); // rounded up
     return std::max(nominal, counted[static_cast<std::size_t>(at / one_beat)]);
 }
 

@@ -1,15 +1,16 @@
-#include "effekt/pulsewire.h"
+#include "effekt/look.h"
 #include "runtime/datafolder.h"
+#include "runtime/frame.h"
+#include "runtime/playback.h"
+#include "show/show.h"
 #include "tools/record/framebuffer.h"
 #include "tools/record/offscreen.h"
 #include "tools/record/options.h"
-#include "tools/record/playback.h"
-#include "tools/record/runningorder.h"
 #include "tools/record/sheet.h"
+#include "tools/record/timetable.h"
 
 #include <SFML/System/Err.hpp>
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
@@ -26,38 +27,38 @@ struct Shot {
     std::string label; ///< on the sheet
 };
 
-void print_list(RunningOrder const& order) {
+void print_list(Timetable const& timetable) {
     std::cout << "name       first beat  beats  title\n";
-    for (ScenePlace const& place : order) {
-        std::cout << std::left << std::setw(11) << place.stem << std::right << std::setw(10) << place.first
-                  << std::setw(7) << place.length << "  " << place.name << '\n';
+    for (ScenePlace const& place : timetable) {
+        std::cout << std::left << std::setw(11) << place.name << std::right << std::setw(10) << place.first
+                  << std::setw(7) << place.length << "  " << place.title << '\n';
     }
 }
 
-Shot make_shot(RunningOrder const& order, RecordOptions const& options, Millibeats asked, Millibeats at) {
-    ScenePlace const& place = *scene_at(order, at);
-    std::string const prefix = options.scene.empty() ? "beat" : place.stem;
-    return {frame_at(at), prefix + "_" + padded_beat(asked), place.name + " " + short_beat(at - place.Begin())};
+Shot make_shot(Timetable const& timetable, RecordOptions const& options, Millibeats asked, Millibeats at) {
+    ScenePlace const& place = *scene_at(timetable, at);
+    std::string const prefix = options.scene.empty() ? "beat" : place.name;
+    return {frame_at(at), prefix + "_" + padded_beat(asked), place.title + " " + short_beat(at - place.Begin())};
 }
 
 /// Turns the beats asked for into frames, in their order.
 /// @return false, after a line, if one lies outside of the scene or the show
-bool plan_shots(RunningOrder const& order, RecordOptions const& options, std::vector<Shot>& shots) {
-    ScenePlace const show{"the show", "", 0, order.back().first + order.back().length};
-    ScenePlace const* const scene = options.scene.empty() ? &show : find_scene(order, options.scene);
+bool plan_shots(Timetable const& timetable, RecordOptions const& options, std::vector<Shot>& shots) {
+    ScenePlace const show{"", "the show", 0, timetable.back().first + timetable.back().length};
+    ScenePlace const* const scene = options.scene.empty() ? &show : find_scene(timetable, options.scene);
     if (!scene) {
-        complain("no scene is called '" + options.scene + "'; there are " + scene_list(order));
+        complain("no scene is called '" + options.scene + "'; there are " + scene_list(timetable));
         return false;
     }
     int const after = options.frame_after ? 1 : 0;
     for (Millibeats const asked : options.beats) {
         Millibeats const at = scene->Begin() + asked;
         if (at >= scene->End() || !frame_is_before(frame_at(at) + after, scene->End())) {
-            complain("beat " + short_beat(asked) + " lies past the last frame of " + scene->name + ", which has " +
+            complain("beat " + short_beat(asked) + " lies past the last frame of " + scene->title + ", which has " +
                      std::to_string(scene->length) + " beats");
             return false;
         }
-        Shot shot = make_shot(order, options, asked, at);
+        Shot shot = make_shot(timetable, options, asked, at);
         shots.push_back(shot);
         if (options.frame_after) shots.push_back({shot.frame + 1, shot.file + "b", shot.label + "b"});
     }
@@ -93,7 +94,8 @@ bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback
     sf::Image picture;
     for (std::size_t const i : in_time) {
         if (playback.NextFrame() <= shots[i].frame) {
-            playback.DrawFrame(shots[i].frame);
+            playback.SkipTo(shots[i].frame);
+            playback.Draw();
             picture = framebuffer.Read();
         }
         if (!options.folder.empty() && !save(picture, fs::path(options.folder) / (shots[i].file + ".png")))
@@ -113,15 +115,18 @@ int record(RecordOptions const& options) {
                         " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
                         std::to_string(Framebuffer::MostSamples()) + " samples");
     }
-    Playback playback;
-    RunningOrder const order = running_order(playback.GetDemo());
+    init_gl();
+    kore::Demo demo(beat_seconds);
+    init_demo(demo, nullptr, beat_seconds);
+    Timetable const timetable = make_timetable(demo);
     if (options.list) {
-        print_list(order);
+        print_list(timetable);
         return 0;
     }
     std::vector<Shot> shots;
-    if (!plan_shots(order, options, shots)) return 1;
+    if (!plan_shots(timetable, options, shots)) return 1;
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
+    Playback playback(demo, recorded_rate);
     return take(shots, options, playback, framebuffer) ? 0 : 1;
 }
 
@@ -131,7 +136,7 @@ int main(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     sf::err().rdbuf(nullptr); // its complaints about files would double ours
-    setenv(effect::PulseWire::standard_calls_variable, options.wire ? "1" : "0", 1);
+    effect::look.standard_wire = options.wire;
     // The caller's paths are meant from where he stands, not from where the data lies.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();

@@ -65,7 +65,6 @@ std::shared_ptr<Route> make_glide(kore::CatmullRom& spline, float beat) {
 std::shared_ptr<effect::SimpleModel> make_tentacles(kore::Vector3<float> const& pos, kore::Vector3<float> const& rot) {
     auto tentacles = std::make_shared<effect::SimpleModel>(models, "tentacles_silhouette", "");
     tentacles->DrawWireframe(false);
-    tentacles->SetColor(1);
     tentacles->SetScale({0.2f, 0.2f, 1});
     tentacles->SetRot(rot);
     tentacles->SetPos(pos);
@@ -75,7 +74,7 @@ std::shared_ptr<effect::SimpleModel> make_tentacles(kore::Vector3<float> const& 
 } // namespace
 
 std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
-    auto scene = std::make_shared<kore::Scene>("Tunnelgate");
+    auto scene = std::make_shared<kore::Scene>(title_of(wire_scene));
 
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0.5f, 0.5f, 36});
@@ -83,10 +82,10 @@ std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
     // A flash on every beat. Deliberate: eight more than the scene has.
     auto blinker = std::make_shared<effect::Blinker>();
     for (unsigned int i = 0; i <= 79; ++i) {
-        blinker->AddEntry(beat * static_cast<float>(i), beat + beat, Blink::Strobe, 2);
+        add_blink(*blinker, beat * static_cast<float>(i), Blink::Strobe, 2, beat);
     }
 
-    auto background = make_background(0, beat);
+    auto background = make_background(black, beat);
     blinker->Add(background);
 
     auto path = make_spline(path_points);
@@ -95,7 +94,7 @@ std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
     auto aim = make_glide<kore::SmoothCam>(*look, beat);
 
     auto wire = std::make_shared<effect::PulseWire>(path, models);
-    wire->SetColor(0);
+    wire->SetColor(black);
     blinker->Add(wire);
 
     auto upper_left = make_tentacles({-0.3f, 0.3f, -1}, {0, 0, 0});
@@ -105,7 +104,7 @@ std::shared_ptr<kore::Scene> wire_scene(float const& beat) {
 
     // clang-format off
     Cue const cues[] = {
-        //  who          from for     view
+        // who        from for   view
         {blinker,     0, length, in_camera_view},
         {background,  0, length, fixed_view},
         {wire,        0, length, in_camera_view},

@@ -1,4 +1,5 @@
 #include "tests/show/scenechecks.h"
+#include "tests/support/withlook.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -74,50 +75,31 @@ TEST(Tunnelgate, FlashesTwiceOnEveryBeatButTheFirst) {
     for (std::size_t b = 1; b < 72; ++b) EXPECT_EQ(flashes[b], 2) << "beat " << b;
 }
 
-/// Sets the variable that chooses the wire's calls, for as long as it lives.
-class WireVariable {
-public:
-    explicit WireVariable(char const* value) {
-        if (value) {
-            setenv("HARDSILENCE_WIRE", value, 1);
-        } else {
-            unsetenv("HARDSILENCE_WIRE");
-        }
-    }
-    ~WireVariable() { unsetenv("HARDSILENCE_WIRE"); }
-    WireVariable(WireVariable const&) = delete;
-    WireVariable& operator=(WireVariable const&) = delete;
-};
-
-/// What is drawn at a beat with a value of the variable.
-std::vector<gl::Draw> drawn(char const* value, double at) {
-    WireVariable const variable(value);
+/// What is drawn at a beat with a look.
+std::vector<gl::Draw> drawn(effect::Look const& wanted, double at) {
+    support::WithLook const look(wanted);
     Stage s(wire_scene);
     s.PlayTo(at).Draw();
     return gl::draws();
 }
 
-std::string calls(char const* value) {
-    WireVariable const variable(value);
-    Stage s(wire_scene);
-    s.PlayTo(1.5).Draw();
+std::string calls(effect::Look const& wanted) {
+    drawn(wanted, 1.5);
     return gl::calls();
 }
 
 TEST(Tunnelgate, DrawsItsWireInsideOnePrimitiveUnlessToldOtherwise) {
     std::string const bracketed = "Begin(QUADS) PushMatrix Translate(0,0,0) PushMatrix Rotate(0,0,0,90) Color(0,0,0) "
                                   "CallList(torus2) Color(1,1,1) CallList(torus2/lines) PopMatrix PopMatrix PushMatrix";
-    for (char const* value : {static_cast<char const*>(nullptr), "", "0"}) {
-        EXPECT_THAT(calls(value), HasSubstr(bracketed));
-    }
-    EXPECT_THAT(calls("1"), testing::Not(HasSubstr(bracketed)));
+    EXPECT_THAT(calls({}), HasSubstr(bracketed));
+    EXPECT_THAT(calls(support::standard_wire), testing::Not(HasSubstr(bracketed)));
 }
 
 TEST(Tunnelgate, LooksTheSameByTheStandardWithBothKindsOfCalls) {
     for (double const at : {0.0, 1.0, 20.1, 33.3, 71.9}) {
         SCOPED_TRACE(at);
-        auto const bracketed = drawn(nullptr, at);
-        auto const standard = drawn("1", at);
+        auto const bracketed = drawn({}, at);
+        auto const standard = drawn(support::standard_wire, at);
         ASSERT_EQ(bracketed.size(), standard.size());
         ASSERT_EQ(bracketed.size(), 2 * 99 + 2 + 901u);
         // The first torus's faces are handed over in another way; everything after it is the same.
@@ -134,7 +116,7 @@ TEST(Tunnelgate, LooksTheSameByTheStandardWithBothKindsOfCalls) {
 }
 
 TEST(Tunnelgate, RaisesNoErrorInsideTheWireWithTheStandardsCalls) {
-    WireVariable const variable("1");
+    support::WithLook const look(support::standard_wire);
     Stage s(wire_scene);
     s.PlayTo(1.5).Draw();
     // What is left are the pops of matrices that the first torus has taken away.
@@ -143,7 +125,7 @@ TEST(Tunnelgate, RaisesNoErrorInsideTheWireWithTheStandardsCalls) {
 
 TEST(Tunnelgate, StandsTheTentaclesFixedBeforeTheViewerByTheStandard) {
     for (double const at : {1.5, 40.0}) {
-        auto const draws = drawn(nullptr, at);
+        auto const draws = drawn({}, at);
         ASSERT_EQ(draws[198].name, "tentacles_silhouette");
         expect_matrix(draws[198].model_view, [] {
             glTranslatef(-0.3f, 0.3f, -1);

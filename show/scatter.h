@@ -4,11 +4,11 @@
 
 /// The pieces of a scene's broken model: they turn in [-turn, turn) about every axis and shift in [-shift, shift) along
 /// it.
-class Set : public effect::BrokenModel::DefaultSet {
+class Scatter : public effect::BrokenModel::DefaultSet {
 public:
     /// @param turn_   degrees a second, at least 0.005
     /// @param shift_  units a second, at least 0.005
-    Set(float turn_, float shift_) : turn(turn_), shift(shift_) {}
+    Scatter(float turn_, float shift_) : turn(turn_), shift(shift_) {}
 
     /// @return 1 for an index beyond 0 to 5
     float set(int index) override {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "runtime/stepper.h"
+
+/// Plays a show at a fixed frame rate: frame i has time i / rate. Reaching a late frame takes the logic of all frames
+/// before it and none of their drawing, so it is exact and quick.
+class Playback {
+public:
+    /// @param demo  must outlive the playback
+    /// @param rate  frames per second
+    /// @param beat  length of one beat, seconds
+    Playback(kore::Demo& demo, float rate, float beat = beat_seconds) : stepper(demo, beat), my_rate(rate) {}
+
+    kore::Demo& GetDemo() { return stepper.GetDemo(); }
+
+    /// The frame that comes next, counted from 0, and the state of the last one.
+    int NextFrame() const { return next; }
+    kore::StateData const& State() const { return stepper.State(); }
+
+    /// Plays the next frame unseen.
+    void Skip();
+
+    /// Plays the frames before this one unseen, so that it comes next; nothing if it has been played already.
+    void SkipTo(int frame);
+
+    /// Plays and draws the next frame.
+    /// @param view  where it is free, the view that stands in for the scenes' cameras
+    void Draw(DebugCamera const& view = {});
+
+private:
+    Stepper stepper;
+    float my_rate;
+    int next = 0;
+};
