@@ -96,8 +96,6 @@ module figure() {
     boot(knee_r, ankle_r, false, 40, $tol = 0.0013);
     place(skull, $tol = 0.002) head_profile();
     hair();
-    boot(knee_l, ankle_l, true, 30, $tol = 0.0013);
-    boot(knee_r, ankle_r, false, 42);
     place(gun, $tol = 0.004) pistol();
 }
 

@@ -71,7 +71,7 @@ Score gungirl() {
         {"FlashBackground", 0, 48, false},
         {"Blinker",         0, 48, true},
     };
-    return {"Gun Girl", gungirl_scene, 48, 10377277, 0xae7a40c25639b3b7, windows,
+    return {"Gun Girl", gungirl_scene, 48, 10349809, 0xc9fe65ac673843ec, windows,
             {
              {
                  {0,    break_up, 1},
