@@ -1,5 +1,5 @@
-#include "show/score.h"
 #include "show/scatter.h"
+#include "show/score.h"
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
