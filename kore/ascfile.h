@@ -70,8 +70,6 @@ private:
     enum class Part { Done, Short, Fault };
 
     bool NextLine(std::string_view& line);
-    /// What has not been read yet, from the start of a line on.
-    std::string_view Rest() const { return at < file.View().size() ? file.View().substr(at) : std::string_view(); }
     Part ReadHeader();
     Part ReadVertices();
     Part ReadFaces();
