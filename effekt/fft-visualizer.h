@@ -42,11 +42,6 @@ private:
     float sine[points / 2];
     float cosine[points / 2];
     float power[bins];
-
-    /// The factors of every stage in the order of its butterflies: entry half + j belongs to butterfly j of the stage
-    /// with that half.
-    float stage_cosine[points];
-    float stage_sine[points];
 };
 
 } // namespace kore

@@ -14,22 +14,6 @@ unsigned char wave_byte(double wave) { return static_cast<unsigned char>(static_
 /// Where a window starts along one side of a table.
 int window_start(double wave, int half) { return static_cast<int>(wave * (half - 1)) + half; }
 
-/// How far the wave of the palette is ahead in each entry: angles in radians, and their cosines and sines.
-struct EntryAngles {
-    EntryAngles() {
-        for (std::size_t i = 0; i < 256; ++i) {
-            angles[i] = static_cast<double>(i) * kore::PI / 64;
-            cosines[i] = std::cos(angles[i]);
-            sines[i] = std::sin(angles[i]);
-        }
-    }
-    double angles[256];
-    double cosines[256];
-    double sines[256];
-};
-
-EntryAngles const entry_angles;
-
 } // namespace
 
 bool PlasmaTexture::Init(int w, int h) {
@@ -57,20 +41,7 @@ void PlasmaTexture::InitPlasma() {
 }
 
 void PlasmaTexture::UpdatePalette(double t) {
-    // sin(a + b) = sin a cos b + cos a sin b, where b is the entry's and tabulated. That strays from the sine of the
-    // rounded sum by less than this much of a step; an entry as near to the next step takes the sine itself.
-    constexpr double stray = 1e-6;
-    constexpr double largest = 4294967296; // beyond, the sum is rounded more coarsely
-
-    double const sine = std::sin(t / 133);
-    double const cosine = std::cos(t / 133);
-    for (std::size_t i = 0; i < 256; ++i) {
-        double const level = (sine * entry_angles.cosines[i] + cosine * entry_angles.sines[i]) * 127 + 128;
-        double const above = level - static_cast<int>(level);
-        bool const sure = above > stray && above < 1 - stray && std::abs(t) < largest;
-        palette[i][0] =
-            sure ? static_cast<unsigned char>(level) : wave_byte(std::sin(t / 133 + entry_angles.angles[i]));
-    }
+    for (int i = 0; i < 256; ++i) palette[i][0] = wave_byte(std::sin(t / 133 + i * kore::PI / 64));
 }
 
 void PlasmaTexture::RenderTexture(unsigned int t) {

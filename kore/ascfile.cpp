@@ -31,7 +31,8 @@ std::string_view object_name(std::string_view line) {
 
 } // namespace
 
-AscFile::AscFile() : work(std::make_unique_for_overwrite<Work>()) {}
+// Not make_unique, which would fill all of it with zeros.
+AscFile::AscFile() : work(new Work) {}
 
 bool AscFile::Open(std::string const& path) {
     at = 0;
@@ -89,14 +90,13 @@ AscFile::Part AscFile::ReadHeader() {
 
 AscFile::Part AscFile::ReadVertices() {
     std::string_view line;
-    for (;;) {
-        // Plain lines, which are nearly all, are taken without a look for keywords.
-        while (std::size_t const taken = parse_plain_vertex(Rest(), vertex)) {
-            at += taken;
-            if (!AddVertex()) return Part::Fault;
-        }
-        if (!NextLine(line)) break;
+    while (NextLine(line)) {
         if (is_short(line)) return Part::Short;
+        // A plain line, and nearly all are plain, needs no look for keywords.
+        if (parse_plain_vertex(line, vertex)) {
+            if (!AddVertex()) return Part::Fault;
+            continue;
+        }
         if (contains(line, "Vertex list:")) continue;
         if (contains(line, "Vertex") && !ScanVertex(line)) return Part::Fault;
         if (contains(line, "Face list:")) break;
@@ -110,13 +110,12 @@ AscFile::Part AscFile::ReadVertices() {
 
 AscFile::Part AscFile::ReadFaces() {
     std::string_view line;
-    for (;;) {
-        while (std::size_t const taken = parse_plain_face(Rest(), face)) {
-            at += taken;
+    while (NextLine(line) && !is_short(line)) {
+        if (parse_plain_face(line, face)) {
             if (!AddFace()) return Part::Fault;
+        } else if (contains(line, "Face") && !ScanFace(line)) {
+            return Part::Fault;
         }
-        if (!NextLine(line) || is_short(line)) break;
-        if (contains(line, "Face") && !ScanFace(line)) return Part::Fault;
     }
     if (faces_read == 0 || faces_read != face_count) {
         Fail("Bad file format, face count mismatch. Reported: " + std::to_string(face_count) +

@@ -11,26 +11,19 @@ void Camera::InternalDraw() {
 }
 
 void Camera::DebugCam() {
-    constexpr float far = -1.1f;
-    constexpr float near = -0.1f;
-    // The six sides of the box, and a slice through its middle.
-    // clang-format off
-    constexpr float quads[7][4][3] = {
-        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {0.5f, 0.5f, near},  {0.5f, -0.5f, near}},
-        {{-0.5f, -0.5f, far},   {-0.5f, 0.5f, far},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}},
-        {{-0.5f, -0.5f, near},  {-0.5f, 0.5f, near},  {-0.5f, 0.5f, far},  {-0.5f, -0.5f, far}},
-        {{0.5f, -0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {0.5f, -0.5f, far}},
-        {{-0.5f, -0.5f, near},  {0.5f, -0.5f, near},  {0.5f, -0.5f, far},  {-0.5f, -0.5f, far}},
-        {{-0.5f, 0.5f, near},   {0.5f, 0.5f, near},   {0.5f, 0.5f, far},   {-0.5f, 0.5f, far}},
-        {{-0.5f, -0.5f, -0.6f}, {-0.5f, 0.5f, -0.6f}, {0.5f, 0.5f, -0.6f}, {0.5f, -0.5f, -0.6f}},
+    constexpr float corners[8][3] = {
+        {-0.5f, -0.5f, -0.1f}, {0.5f, -0.5f, -0.1f}, {0.5f, 0.5f, -0.1f}, {-0.5f, 0.5f, -0.1f},
+        {-0.5f, -0.5f, -1.1f}, {0.5f, -0.5f, -1.1f}, {0.5f, 0.5f, -1.1f}, {-0.5f, 0.5f, -1.1f},
     };
-    // clang-format on
+    // The six sides, the near one twice.
+    constexpr int quads[7][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 1, 5, 4}, {2, 3, 7, 6},
+                                 {0, 3, 7, 4}, {1, 2, 6, 5}, {0, 1, 2, 3}};
     constexpr float red[3] = {1, 0, 0};
 
     glColor3fv(red);
     glBegin(GL_QUADS);
     for (auto const& quad : quads) {
-        for (auto const& corner : quad) glVertex3fv(corner);
+        for (int const corner : quad) glVertex3fv(corners[corner]);
     }
     glEnd();
 }

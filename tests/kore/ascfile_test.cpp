@@ -364,12 +364,17 @@ TEST(AscLines, LeaveEveryLineThatIsNotPlainToThePattern) {
 }
 
 TEST(AscFile, RoundsNumbersHalfwayBetweenTwoFloatsAsThePatternsDo) {
-    // 2^24 + 1 and the like: the nearest double lies just between two floats.
+    // 2^24 + 1 and the like: the nearest double lies just between two floats. The last two lie so near to the middle
+    // that a double on the way to the float would be the middle itself.
+    // clang-format off
     constexpr char const* halves[] = {
-        "16777217",       "16777219",       "-16777217",     "8388608.5",     "8388609.5",      "4194304.25",
-        "4194304.75",     "1048576.0625",   "1048576.06249", "1048576.06251", "0.50000002",     "0.500000029802",
-        "16777216.99999", "16777217.00001", "99999999.9999", "123456789",     "12345678.12345", "-0",
-        "-0.0",           "00000001.5"};
+        "16777217", "16777219", "-16777217", "8388608.5", "8388609.5",
+        "4194304.25", "4194304.75", "1048576.0625", "1048576.06249", "1048576.06251",
+        "0.50000002", "0.500000029802", "16777216.99999", "16777217.00001", "99999999.9999",
+        "123456789", "12345678.12345", "-0", "-0.0", "00000001.5",
+        "1048576.06250000000000001", "1048576.18749999999999999",
+    };
+    // clang-format on
     std::vector<std::string> vertices;
     for (char const* half : halves) {
         vertices.push_back(std::string("Vertex 0:  X:") + half + "     Y:" + half + " Z:" + half);
