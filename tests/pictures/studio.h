@@ -1,8 +1,8 @@
 #pragma once
 
 #include "effekt/pulsewire.h"
-#include "tools/record/framebuffer.h"
-#include "tools/record/offscreen.h"
+#include "tools/offscreen/framebuffer.h"
+#include "tools/offscreen/offscreencontext.h"
 #include "tools/record/playback.h"
 #include "tools/record/runningorder.h"
 
