@@ -3,8 +3,8 @@
 #include "runtime/frame.h"
 #include "runtime/playback.h"
 #include "tests/support/withlook.h"
-#include "tools/record/framebuffer.h"
-#include "tools/record/offscreen.h"
+#include "tools/offscreen/framebuffer.h"
+#include "tools/offscreen/offscreencontext.h"
 #include "tools/record/timetable.h"
 
 #include <string>

@@ -1,5 +1,5 @@
 #define GL_GLEXT_PROTOTYPES // framebuffers are younger than gl.h
-#include "tools/record/framebuffer.h"
+#include "tools/offscreen/framebuffer.h"
 
 #include <GL/gl.h>
 #include <GL/glext.h>

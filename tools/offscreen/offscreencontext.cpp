@@ -1,4 +1,4 @@
-#include "tools/record/offscreen.h"
+#include "tools/offscreen/offscreencontext.h"
 
 #include <EGL/eglext.h>
 #include <GL/gl.h>
