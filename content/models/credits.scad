@@ -5,7 +5,8 @@ width = 6.4; // of the column
 left = -4.1;
 top = 4;
 
-// Height, space below, letters; a caption is followed by a rule from `rule` (from the column's left edge) to the right edge.
+// Height, space below, letters; a caption is followed by a rule from `rule` (from the column's left edge) to the
+// right edge.
 //   height  below  letters          rule
 lines = [
     [1.36,   0.36,  "HARD SILENCE"],

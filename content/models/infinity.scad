@@ -13,7 +13,8 @@ sides = 6;
 function curve(t) = [long * cos(t), wide * sin(2 * t), apart * sin(t)];
 // Even steps: the lengths along the curve up to each angle, looked up backwards.
 fine = 720;
-lengths = [for (i = 0, s = 0; i <= fine; s = s + norm(curve((i + 1) * 360 / fine) - curve(i * 360 / fine)), i = i + 1) s];
+lengths = [for (i = 0, s = 0; i <= fine;
+                s = s + norm(curve((i + 1) * 360 / fine) - curve(i * 360 / fine)), i = i + 1) s];
 angles = [for (i = [0:around - 1])
     lookup(i * lengths[fine] / around, [for (k = [0:fine]) [lengths[k], k * 360 / fine]])];
 

@@ -11,10 +11,8 @@ namespace {
 struct Played {
     std::vector<std::pair<std::string, int>> starts; ///< name of the scene, show beat
     int end = 0;                                     ///< show beat
-    std::uint64_t calls = 0;
-    std::uint64_t sum = 0;
-    std::map<std::string, std::size_t> most_errors; ///< of a frame, by scene
-    std::size_t deepest = 0;                        ///< matrices on the stack after a frame
+    std::map<std::string, std::size_t> most_errors;  ///< of a frame, by scene
+    std::size_t deepest = 0;                         ///< matrices on the stack after a frame
 };
 
 std::vector<std::pair<std::string, int>> expected_starts() {
@@ -38,12 +36,10 @@ Played play_in_virtual_time(float fps) {
             std::size_t& most = run.most_errors[frame.scene];
             most = std::max(most, gl::errors().size());
         });
-    run.calls = gl::call_count();
-    run.sum = gl::checksum();
     return run;
 }
 
-TEST(Show, PlaysItsScenesOneAfterTheOtherTheSameOnEveryRun) {
+TEST(Show, PlaysItsScenesOneAfterTheOther) {
     Played const run = play_in_virtual_time(60);
     EXPECT_EQ(run.starts, expected_starts());
     EXPECT_EQ(run.end, scores::total_beats());
@@ -59,10 +55,6 @@ TEST(Show, PlaysItsScenesOneAfterTheOtherTheSameOnEveryRun) {
             EXPECT_EQ(most, 0u) << title;
         }
     }
-
-    Played const again = play_in_virtual_time(60);
-    EXPECT_EQ(again.calls, run.calls);
-    EXPECT_EQ(again.sum, run.sum);
 }
 
 TEST(Show, ChangesScenesOnTheSameBeatsAtAnyFrameRate) {

@@ -20,7 +20,8 @@ module word(letters, height, wider = 1, spacing = 1, curve = 16) {
         text(letters, size = em, font = face, spacing = spacing, $fn = curve);
 }
 
-// From the pen to the ink of a letter drawn at size 10: uprights and bowls. Of the others none begins a line that must be flush.
+// From the pen to the ink of a letter drawn at size 10: uprights and bowls. Of the others none begins a line that
+// must be flush.
 function bearing(letter) = search(letter, "CGOQ") == [] ? 0.553 : 0.431;
 
 // Takes `by` off the left and the right side of every part of a shape: stretched letters get their thin uprights back.

@@ -28,11 +28,13 @@ cube_solid = [
     [for (z = [-1, 1], y = [-1, 1], x = [-1, 1]) [x, y, z]],
     [[0, 2, 3, 1], [4, 5, 7, 6], [0, 1, 5, 4], [2, 6, 7, 3], [0, 4, 6, 2], [1, 3, 7, 5]]];
 
-// The faces around a point of a solid of triangles, counter-clockwise: their numbers, and the far ends of the edges between.
+// The faces around a point of a solid of triangles, counter-clockwise: their numbers, and the far ends of the edges
+// between.
 function face_after(faces, point, end) = [for (i = [0:len(faces) - 1], k = [0:2])
     if (faces[i][k] == point && faces[i][(k + 1) % 3] == end) i][0];
 function third(face, point) = [for (k = [0:2]) if (face[k] == point) face[(k + 2) % 3]][0];
-function ends_around(faces, point, list) = let (next = third(faces[face_after(faces, point, list[len(list) - 1])], point))
+function ends_around(faces, point, list) =
+    let (next = third(faces[face_after(faces, point, list[len(list) - 1])], point))
     next == list[0] ? list : ends_around(faces, point, concat(list, [next]));
 function first_end(faces, point) = [for (f = faces, k = [0:2]) if (f[k] == point) f[(k + 1) % 3]][0];
 function ring(faces, point) = ends_around(faces, point, [first_end(faces, point)]);
@@ -50,7 +52,8 @@ function truncated(solid) = let (
     number = [for (a = [0:len(points) - 1]) [for (b = [0:len(points) - 1]) let (at = search([[a, b]], ways)) at[0]]])
     [[for (w = ways) (2 * points[w[0]] + points[w[1]]) / 3],
      concat([for (v = [0:len(points) - 1]) [for (e = ring(faces, v)) number[v][e]]],
-            [for (f = faces) flat_list([for (k = [0:2]) let (a = f[k], b = f[(k + 1) % 3]) [number[a][b], number[b][a]]])])];
+            [for (f = faces) flat_list([for (k = [0:2]) let (a = f[k], b = f[(k + 1) % 3])
+                                        [number[a][b], number[b][a]]])])];
 
 // Every triangle cut in four, the new points on the sphere through the old: an octahedron becomes a ball.
 function blown_up(solid) = let (
@@ -69,8 +72,8 @@ function inset(outline, by) = let (n = len(outline)) [for (i = [0:n - 1]) let (
 
 module solid(s) polyhedron(points = s[0], faces = [for (f = s[1]) [for (i = [len(f) - 1:-1:0]) f[i]]], convexity = 10);
 
-// The edges of a solid as bars, its faces open. On the outside a bar reaches `bar` in from its edge on both faces; its walls
-// lead towards the solid's middle and end on a smaller copy of the solid, at `inner` of its size.
+// The edges of a solid as bars, its faces open. On the outside a bar reaches `bar` in from its edge on both faces;
+// its walls lead towards the solid's middle and end on a smaller copy of the solid, at `inner` of its size.
 module frame(s, bar, inner) {
     holes = [for (f = s[1]) inset([for (v = f) s[0][v]], bar)];
     n = len(s[0]);
@@ -83,8 +86,8 @@ module frame(s, bar, inner) {
                each [[a, b, hb, ha], [ha, hb, gb, ga], [ga, gb, n + b, n + a]]]]);
 }
 
-// The same with bars of three sides: the walls of a bar meet in an edge inside. The outer sides are laid in three triangles, so that
-// no splinter is longer than it must be when they fly.
+// The same with bars of three sides: the walls of a bar meet in an edge inside. The outer sides are laid in three
+// triangles, so that no splinter is longer than it must be when they fly.
 module ridged_frame(s, bar, inner) {
     holes = [for (f = s[1]) inset([for (v = f) s[0][v]], bar)];
     n = len(s[0]);

@@ -1,6 +1,7 @@
 // Tubes along closed curves: rings, and whatever a path tells.
 
-// A tube with an even polygon as its section. centres: points around the closed path; right, up: unit vectors across it at each point.
+// A tube with an even polygon as its section. centres: points around the closed path; right, up: unit vectors across
+// it at each point.
 module tube(centres, right, up, radius, sides) {
     n = len(centres);
     points = [for (i = [0:n - 1], k = [0:sides - 1]) let (a = 360 * k / sides)
