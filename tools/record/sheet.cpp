@@ -1,6 +1,6 @@
 #include "tools/record/sheet.h"
 
-#include "tools/record/pixelfont.h"
+#include "tools/lettering/lettering.h"
 
 #include <algorithm>
 
@@ -50,7 +50,7 @@ sf::Image make_sheet(std::span<SheetCell const> cells, unsigned int columns) {
     columns = std::min(columns, count);
     sf::Vector2u const picture = cells[0].picture.getSize();
     unsigned int const column = picture.x + gap;
-    unsigned int const row = picture.y + gap + glyph_height * most_dot + gap;
+    unsigned int const row = picture.y + gap + text_height * most_dot + gap;
 
     sf::Image sheet;
     sheet.create(columns * column + gap, (count + columns - 1) / columns * row + gap, sf::Color(128, 128, 128));

@@ -1,6 +1,6 @@
 #include "tools/record/sheet.h"
 
-#include "tools/record/pixelfont.h"
+#include "tools/lettering/lettering.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -36,48 +36,6 @@ int black_pixels(sf::Image const& image) {
 
 } // namespace
 
-TEST(PixelFont, DrawsItsGlyphs) {
-    sf::Image image = plain(12, 7, sf::Color::White);
-    write_text(image, 0, 0, 1, "l4");
-    std::vector<std::string> const expected = {
-        "#........#..", //
-        "#.......##..", //
-        "#......#.#..", //
-        "#.....#..#..", //
-        "#.....#####.", //
-        "#........#..", //
-        "#####....#..", //
-    };
-    EXPECT_EQ(dots(image), expected);
-}
-
-TEST(PixelFont, EveryGlyphDiffersFromTheOthers) {
-    std::string const all = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789. ";
-    std::vector<std::vector<std::string>> seen;
-    for (char const c : all) {
-        sf::Image image = plain(5, 7, sf::Color::White);
-        write_text(image, 0, 0, 1, std::string(1, c));
-        seen.push_back(dots(image));
-    }
-    for (std::size_t a = 0; a < seen.size(); ++a) {
-        for (std::size_t b = 0; b < a; ++b) EXPECT_NE(seen[a], seen[b]) << all[a] << " and " << all[b];
-    }
-}
-
-TEST(PixelFont, GrowsWithTheDotAndIsCutOffAtTheEdge) {
-    sf::Image small = plain(5, 7, sf::Color::White);
-    write_text(small, 0, 0, 1, "B");
-    sf::Image large = plain(10, 14, sf::Color::White);
-    write_text(large, 0, 0, 2, "b");
-    EXPECT_EQ(black_pixels(large), 4 * black_pixels(small));
-    sf::Image cut = plain(5, 7, sf::Color::White);
-    write_text(cut, 3, 4, 1, "BBBB");
-    EXPECT_GT(black_pixels(cut), 0);
-    EXPECT_LT(black_pixels(cut), black_pixels(small));
-    EXPECT_EQ(text_width("AB"), 11u);
-    EXPECT_EQ(text_width(""), 0u);
-}
-
 TEST(Sheet, PicturesUpToTheWidestCellStayAsTheyAre) {
     sf::Image picture = plain(widest_cell, 3, sf::Color::White);
     picture.setPixel(7, 1, sf::Color::Black);
@@ -104,13 +62,13 @@ TEST(Sheet, LaysPicturesOutInRowsWithTheirLabels) {
     std::vector<SheetCell> cells;
     for (sf::Color const& color : colors) cells.push_back({plain(40, 30, color), "x"});
     sf::Image const sheet = make_sheet(cells, 2);
-    EXPECT_EQ(sheet.getSize(), sf::Vector2u(2 * 44 + 4, 2 * 52 + 4));
+    EXPECT_EQ(sheet.getSize(), sf::Vector2u(2 * 44 + 4, 2 * 56 + 4));
     EXPECT_EQ(sheet.getPixel(4, 4), colors[0]);
     EXPECT_EQ(sheet.getPixel(43, 33), colors[0]);
     EXPECT_EQ(sheet.getPixel(44, 4), grey);
     EXPECT_EQ(sheet.getPixel(48, 4), colors[1]);
-    EXPECT_EQ(sheet.getPixel(4, 56), colors[2]);
-    EXPECT_EQ(sheet.getPixel(48, 56), grey) << "nothing there";
+    EXPECT_EQ(sheet.getPixel(4, 60), colors[2]);
+    EXPECT_EQ(sheet.getPixel(48, 60), grey) << "nothing there";
 
     std::vector<SheetCell> unlabelled = cells;
     for (SheetCell& cell : unlabelled) cell.label.clear();

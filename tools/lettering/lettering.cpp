@@ -1,0 +1,51 @@
+#include "tools/lettering/lettering.h"
+
+#include <algorithm>
+#include <stb/stb_easy_font.h>
+#include <vector>
+
+namespace {
+
+/// A rectangle of a letter as the font writes it: its corners clockwise from the upper left one, dots.
+struct Quad {
+    struct {
+        float x, y, z;
+        unsigned char color[4];
+    } corners[4];
+};
+
+/// The font knows no other characters, and looks for them outside of its table.
+std::string printable(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }, ' ');
+    return text;
+}
+
+std::vector<Quad> quads_of(std::string text) {
+    constexpr std::size_t most_a_letter = 16;
+    std::vector<Quad> quads(text.size() * most_a_letter);
+    int const count =
+        stb_easy_font_print(0, 0, text.data(), nullptr, quads.data(), static_cast<int>(quads.size() * sizeof(Quad)));
+    quads.resize(static_cast<std::size_t>(count));
+    return quads;
+}
+
+} // namespace
+
+void write_text(sf::Image& image, unsigned int left, unsigned int top, unsigned int dot, std::string const& text) {
+    for (Quad const& quad : quads_of(printable(text))) {
+        auto const pixel = [dot](unsigned int from, float dots) {
+            return from + dot * static_cast<unsigned int>(dots);
+        };
+        unsigned int const right = std::min(pixel(left, quad.corners[2].x), image.getSize().x);
+        unsigned int const bottom = std::min(pixel(top, quad.corners[2].y), image.getSize().y);
+        for (unsigned int y = pixel(top, quad.corners[0].y); y < bottom; ++y) {
+            for (unsigned int x = pixel(left, quad.corners[0].x); x < right; ++x)
+                image.setPixel(x, y, sf::Color::Black);
+        }
+    }
+}
+
+unsigned int text_width(std::string const& text) {
+    return static_cast<unsigned int>(stb_easy_font_width(printable(text).data()));
+}
