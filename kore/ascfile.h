@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kore/asclimits.h"
 #include "kore/readfile.h"
 
 #include <GL/gl.h>
@@ -25,8 +26,8 @@ namespace kore {
 /// beyond is skipped. Two blank lines end the file early.
 class AscFile {
 public:
-    static constexpr int max_vertices = 100000; ///< of one object
-    static constexpr int max_faces = 100000;    ///< of one object
+    static constexpr int max_vertices = max_object_vertices;
+    static constexpr int max_faces = max_object_faces;
 
     enum class Result {
         Object, ///< an object has been read

@@ -1,6 +1,7 @@
 #include "kore/ascmodel.h"
 
 #include "kore/ascfile.h"
+#include "kore/edgerule.h"
 #include "kore/report.h"
 
 #include <algorithm>
@@ -25,14 +26,10 @@ void triangle(GLfloat const (*verts)[3], int const* face) {
 }
 
 void visible_edges(GLfloat const (*verts)[3], int const* face, int const* edges) {
-    if (edges[0] == 0 && edges[1] == 0 && edges[2] == 0) return;
-    GLfloat const* const a = verts[face[0]];
-    GLfloat const* const b = verts[face[1]];
-    GLfloat const* const c = verts[face[2]];
-    if (edges[0] == 1) segment(a, b);
-    if (edges[1] == 1) segment(b, c);
-    // Deliberate: the flag of BC again. CA's own only counts in the test for all zero.
-    if (edges[1] == 1) segment(c, a);
+    DrawnEdges const drawn = drawn_edges(edges);
+    if (drawn.ab) segment(verts[face[0]], verts[face[1]]);
+    if (drawn.bc) segment(verts[face[1]], verts[face[2]]);
+    if (drawn.ca) segment(verts[face[2]], verts[face[0]]);
 }
 
 } // namespace

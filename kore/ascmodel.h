@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kore/asclimits.h"
 #include "kore/object.h"
 
 #include <GL/gl.h>
@@ -21,7 +22,7 @@ struct SingleAscModel {
 
 /// One object of the per-triangle store.
 struct SingleAscModelFull {
-    static constexpr unsigned int max_faces = 10000;
+    static constexpr unsigned int max_faces = max_object_faces_full;
 
     /// @param face_models      count display lists
     /// @param face_wireframes  count display lists
@@ -52,7 +53,7 @@ public:
     ///         error stay usable
     int LoadModel(std::string const& file);
 
-    /// Loads every object of a file into the per-triangle store, at most 10000 faces each.
+    /// Loads every object of a file into the per-triangle store, at most max_object_faces_full faces each.
     /// @return 1, or 0 after an error line on standard output
     int LoadModelFull(std::string const& file);
 

@@ -1,5 +1,6 @@
 #include "runtime/frame.h"
 
+#include "kore/frustum.h"
 #include "kore/perspective.h"
 
 #include <GL/gl.h>
@@ -16,7 +17,8 @@ void init_gl() {
     glDisable(GL_CULL_FACE);
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
-    kore::setPerspective(90.0, 1.0, 1.0, 2000.0);
+    kore::setPerspective(kore::frustum::field_of_view, kore::frustum::aspect, kore::frustum::near_plane,
+                         kore::frustum::far_plane);
     glEnable(GL_COLOR_MATERIAL);
     glShadeModel(GL_SMOOTH);
     glMatrixMode(GL_MODELVIEW);

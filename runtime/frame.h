@@ -3,9 +3,8 @@
 #include "kore/demo.h"
 #include "runtime/debugcamera.h"
 
-/// Sets the fixed OpenGL state of the show on the current context: blending, depth test, and a frustum of 90 degrees
-/// with the near plane at 1 and the far one at 2000. Deliberate: its aspect is 1, whatever the window's is, so the
-/// picture is stretched. The projection is never changed afterwards.
+/// Sets the fixed OpenGL state of the show on the current context: blending, depth test, and the frustum of
+/// kore/frustum.h, whose picture is stretched to the window. The projection is never changed afterwards.
 void init_gl();
 
 /// Updates and draws one frame on the current context. The whole picture is a function of the demo and the state.

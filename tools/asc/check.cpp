@@ -1,5 +1,6 @@
 #include "tools/asc/check.h"
 
+#include "kore/asclimits.h"
 #include "tools/asc/creases.h"
 
 #include <algorithm>
@@ -33,11 +34,12 @@ private:
 
     void counts() {
         int const faces = static_cast<int>(object.faces.size());
-        if (static_cast<int>(object.vertices.size()) > most_faces)
-            add(where.line, "more than " + std::to_string(most_faces) + " vertices");
-        if (faces > most_faces) add(where.line, "more than " + std::to_string(most_faces) + " faces");
-        if (shattered && faces > most_faces_shattered)
-            add(where.line, "more than " + std::to_string(most_faces_shattered) + " faces, too many to be shattered");
+        auto const more_than = [](int limit) { return "more than " + std::to_string(limit); };
+        if (static_cast<int>(object.vertices.size()) > kore::max_object_vertices)
+            add(where.line, more_than(kore::max_object_vertices) + " vertices");
+        if (faces > kore::max_object_faces) add(where.line, more_than(kore::max_object_faces) + " faces");
+        if (shattered && faces > kore::max_object_faces_full)
+            add(where.line, more_than(kore::max_object_faces_full) + " faces, too many to be shattered");
     }
 
     void double_vertices() {

@@ -1,5 +1,7 @@
 #include "tools/asc/creases.h"
 
+#include "kore/edgerule.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -45,11 +47,10 @@ std::set<Edge> creases(Object const& object) {
 std::set<Edge> drawn_edges(Object const& object) {
     std::set<Edge> result;
     for (Face const& face : object.faces) {
-        if (face.edge[0] == 1) result.insert(side_edge(face, 0));
-        if (face.edge[1] == 1) {
-            result.insert(side_edge(face, 1));
-            result.insert(side_edge(face, 2));
-        }
+        kore::DrawnEdges const drawn = kore::drawn_edges(face.edge.data());
+        if (drawn.ab) result.insert(side_edge(face, 0));
+        if (drawn.bc) result.insert(side_edge(face, 1));
+        if (drawn.ca) result.insert(side_edge(face, 2));
     }
     return result;
 }

@@ -14,8 +14,7 @@ using Edge = std::pair<int, int>;
 /// where more than two faces meet.
 std::set<Edge> creases(Object const& object);
 
-/// The edges that the program draws for the flags as they stand: A to B when AB is 1; B to C and C to A
-/// when BC is 1. The flag CA alone draws nothing.
+/// The edges that the program draws for the flags as they stand, by the rule of kore/edgerule.h.
 std::set<Edge> drawn_edges(Object const& object);
 
 /// Sets the edge flags of every face to its creases and turns its corners so that `drawn_edges` is

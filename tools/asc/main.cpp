@@ -1,5 +1,6 @@
 // The mesh tool: turns model files into the show's meshes, checks them and draws them.
 
+#include "kore/asclimits.h"
 #include "tools/asc/ascfile.h"
 #include "tools/asc/check.h"
 #include "tools/asc/creases.h"
@@ -119,9 +120,9 @@ int save_objects(std::vector<asc::Object> const& objects, std::string const& out
     for (asc::Object const& object : objects) {
         if (object.name.empty() || object.name.find_first_of("\"\r\n") != std::string::npos)
             return failed("'" + object.name + "' cannot be the name of an object");
-        if (object.faces.size() > static_cast<std::size_t>(asc::most_faces) ||
-            object.vertices.size() > static_cast<std::size_t>(asc::most_faces))
-            return failed("object '" + object.name + "' has more than " + std::to_string(asc::most_faces) +
+        if (object.faces.size() > static_cast<std::size_t>(kore::max_object_faces) ||
+            object.vertices.size() > static_cast<std::size_t>(kore::max_object_vertices))
+            return failed("object '" + object.name + "' has more than " + std::to_string(kore::max_object_faces) +
                           " faces or vertices");
     }
     std::string const text = asc::write(objects);

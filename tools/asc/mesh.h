@@ -53,9 +53,6 @@ Box box_of(Object const& object);
 inline constexpr double resolution = 1e-6;
 /// Faces that meet at less than this angle count as coplanar, degrees.
 inline constexpr double crease_angle = 1.0;
-/// What the program's loader holds, per object: vertices and faces, and faces of a mesh that it takes apart.
-inline constexpr int most_faces = 100000;
-inline constexpr int most_faces_shattered = 10000;
 
 /// Twice the area of the triangle as a vector along its normal (right-hand rule over A, B, C).
 Vec3 face_normal(Object const& object, Face const& face);

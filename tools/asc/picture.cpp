@@ -1,5 +1,6 @@
 #include "tools/asc/picture.h"
 
+#include "kore/frustum.h"
 #include "tools/asc/creases.h"
 
 #include <algorithm>
@@ -52,7 +53,8 @@ private:
     Vec3 ahead, right, up;
 };
 
-constexpr double near_plane = 1.0;
+constexpr double near_plane = kore::frustum::near_plane;
+static_assert(kore::frustum::field_of_view == 90.0 && kore::frustum::aspect == 1.0); // as projected() has it
 
 Vec3 on_near_plane(Vec3 a, Vec3 b) { return a + (b - a) * ((near_plane - a.z) / (b.z - a.z)); }
 
