@@ -21,6 +21,24 @@ struct Outcome {
     std::string said; ///< both streams
 };
 
+/// What a part of a picture holds.
+struct Tally {
+    int black = 0, white = 0; ///< pixels
+    double ink = 0.0;         ///< pixels, a grey one counted by its darkness
+};
+
+Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
+    Tally tally;
+    for (int y = part.top; y < part.top + part.height; ++y)
+        for (int x = part.left; x < part.left + part.width; ++x) {
+            int const level = image.getPixel(static_cast<unsigned int>(x), static_cast<unsigned int>(y)).r;
+            tally.black += level == 0 ? 1 : 0;
+            tally.white += level == 255 ? 1 : 0;
+            tally.ink += (255 - level) / 255.0;
+        }
+    return tally;
+}
+
 /// Each test works in an empty folder of its own.
 class AscCommand : public testing::Test {
 protected:
@@ -49,6 +67,15 @@ protected:
         return text;
     }
 
+    /// The part of the picture that `preview` draws, all of it unless told.
+    Tally preview(std::string const& arguments, sf::IntRect const& part = {0, 0, 1024, 768}) const {
+        EXPECT_EQ(call("preview " + arguments + " -o view.png").status, 0);
+        sf::Image image;
+        EXPECT_TRUE(image.loadFromFile((folder / "view.png").string()));
+        EXPECT_EQ(image.getSize(), sf::Vector2u(1024, 768));
+        return tally_of(image, part);
+    }
+
     fs::path folder;
 };
 
@@ -58,6 +85,9 @@ char const box_obj[] = "o box\n"
                        "f 1 4 3 2\nf 5 6 7 8\nf 1 2 6 5\nf 7 6 2 3\nf 3 4 8 7\nf 1 4 8 5\n";
 
 char const tetrahedron_off[] = "OFF\n4 4 0\n1 1 1\n1 -1 -1\n-1 1 -1\n-1 -1 1\n3 0 1 2\n3 0 2 3\n3 0 3 1\n3 1 3 2\n";
+
+/// 2 x 2 around the origin, cut in two triangles.
+char const square_obj[] = "v -1 -1 0\nv 1 -1 0\nv 1 1 0\nv -1 1 0\nf 1 2 3 4\n";
 
 char const triangle_stl[] = "solid s\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 "
                             "0\nendloop\nendfacet\nendsolid s\n";
@@ -134,20 +164,61 @@ TEST_F(AscCommand, CheckPrintsEveryObjectAndEveryFaultWithItsLine) {
     EXPECT_EQ(bad.said, "c.asc:8: expected vertex 4 with X, Y and Z; the header's counts may be wrong\n");
 }
 
-TEST_F(AscCommand, PreviewAndSheetWritePictures) {
-    put("a.off", tetrahedron_off);
-    EXPECT_EQ(call("convert a.off -o a.asc").status, 0);
-    EXPECT_EQ(call("preview a.asc --camera 0,0,4 --look 0,0,0 --scale 1 --at 0,0,0 -o view.png").status, 0);
+TEST_F(AscCommand, PreviewDrawsFacesAndLinesAsTheShowDoes) {
+    put("square.obj", square_obj);
+    put("tetrahedron.off", tetrahedron_off);
+    ASSERT_EQ(call("convert square.obj -o square.asc").status, 0);
+    ASSERT_EQ(call("convert tetrahedron.off -o tetrahedron.asc").status, 0);
+    // The square fills the middle half of the picture from 2 units away.
+    constexpr int inside = 512 * 384, outside = 1024 * 768 - inside;
+    Tally const faces = preview("square.asc --no-lines --camera 0,0,2");
+    EXPECT_EQ(faces.black, inside);
+    EXPECT_EQ(faces.white, outside);
+    Tally const white = preview("square.asc --no-lines --camera 0,0,2 --white");
+    EXPECT_EQ(white.white, inside);
+    EXPECT_EQ(white.black, outside);
+    // Half as high, on its side, to the left and twice as far away.
+    std::string const moved = "square.asc --no-lines --camera 0,0,2 --scale 1,0.5,1 --turn 0,0,90 --at -1,0,-2";
+    EXPECT_EQ(preview(moved).black, 128 * 192);
+    EXPECT_EQ(preview(moved, {512 - 128 - 64, 384 - 96, 128, 192}).black, 128 * 192);
+    // From the right by as much, looking that way too.
+    EXPECT_EQ(preview("square.asc --no-lines --camera 1,0,2 --look 1,0,0", {0, 192, 512, 384}).black, inside);
+    // White lines take from the black body; a square's diagonal is hidden unless all lines are drawn.
+    std::string const aside = " --camera 0,0,4 --turn 20,30,0";
+    EXPECT_LT(preview("tetrahedron.asc" + aside).black + 200, preview("tetrahedron.asc --no-lines" + aside).black);
+    EXPECT_GT(preview("square.asc --white --all-lines" + aside).ink, preview("square.asc --white" + aside).ink + 50);
+}
+
+TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
+    put("square.obj", square_obj);
+    put("box.obj", box_obj);
+    ASSERT_EQ(call("convert square.obj -o square.asc").status, 0);
+    ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);
+    ASSERT_EQ(call("sheet square.asc box.asc square.asc --columns 2 --panel 200 -o sheet.png").status, 0);
     sf::Image image;
-    ASSERT_TRUE(image.loadFromFile((folder / "view.png").string()));
-    EXPECT_EQ(image.getSize(), sf::Vector2u(1024, 768));
-    EXPECT_EQ(image.getPixel(5, 5), sf::Color::White);
-    // The nearest edge is one unit away at a height of 1, from (-1, -1) to (1, 1) in the middle of the picture.
-    EXPECT_EQ(image.getPixel(512, 300), sf::Color::Black);
-    EXPECT_EQ(call("preview a.asc").status, 0);
-    EXPECT_TRUE(fs::exists(folder / "a.png"));
-    EXPECT_EQ(call("sheet a.asc a.asc -o sheet.png").status, 0);
-    EXPECT_TRUE(image.loadFromFile((folder / "sheet.png").string()));
+    ASSERT_TRUE(image.loadFromFile((folder / "sheet.png").string()));
+    EXPECT_EQ(image.getSize(), sf::Vector2u(2 * 424, 2 * 230));
+
+    // A square is drawn 4/3 as wide as it is high, over 0.92 of the panel: 184 x 138 pixels. Four sides are black, the
+    // diagonal is a third grey.
+    Tally const solid = tally_of(image, {8, 8, 200, 200});
+    EXPECT_NEAR(solid.ink, 184 * 138, 10);
+    EXPECT_NEAR(tally_of(image, {216, 8, 200, 200}).ink, 2 * (184 + 138) + 184 / 3.0, 80);
+    EXPECT_NEAR(image.getPixel(316, 108).r, 200, 40) << "the diagonal";
+    EXPECT_EQ(image.getPixel(308, 60), sf::Color::White) << "between the lines";
+    EXPECT_GT(tally_of(image, {8, 208, 408, 22}).black, 60) << "the caption";
+    EXPECT_EQ(tally_of(image, {8, 238, 200, 200}).ink, solid.ink) << "an object twice";
+    EXPECT_EQ(tally_of(image, {424, 230, 424, 230}).white, 0) << "nothing more there";
+
+    // The box's nearest corner, turned by 25 degrees about x and -30 about y, lies at (150, 96); three lines meet
+    // there.
+    EXPECT_GT(image.getPixel(432 + 150, 8 + 96).r, 128) << "white on the body";
+    EXPECT_LT(image.getPixel(640 + 150, 8 + 96).r, 128) << "black";
+    EXPECT_EQ(image.getPixel(432 + 160, 8 + 80), sf::Color::Black) << "a face beside it";
+
+    ASSERT_EQ(call("preview square.asc").status, 0);
+    EXPECT_TRUE(image.loadFromFile((folder / "square.png").string())) << "without a camera it draws a sheet";
+    EXPECT_EQ(image.getSize(), sf::Vector2u(784, 410));
 }
 
 TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
@@ -156,6 +227,7 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
     put("points.obj", "v 0 0 0\nv 1 0 0\nl 1 2\n");
     put("line.obj", "v 0 0 0\nv 1 0 0\nv 2 0 0\nf 1 2 3\n");
     put("junk.asc", "this is no mesh\r\n");
+    EXPECT_EQ(call("convert a.off -o a.asc").status, 0);
     std::pair<std::string, std::string> const cases[] = {
         {"fly", "unknown command 'fly' (convert, join, check, preview, sheet)"},
         {"convert a.off", "convert needs input files and -o OUT.asc"},
@@ -180,6 +252,8 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"join junk.asc -o a.asc", "junk.asc:1: expected a line like: Named object: \"name\""},
         {"preview junk.asc", "junk.asc:1: expected a line like: Named object: \"name\""},
         {"preview", "preview needs one mesh file"},
+        {"sheet a.asc -o none/a.png", "cannot write none/a.png"},
+        {"sheet a.asc --panel 2000 --columns 1000 -o a.png", "option --columns is out of range"},
         {"sheet -o a.png", "sheet needs mesh files and -o OUT.png"},
     };
     for (auto const& [arguments, line] : cases) {

@@ -9,6 +9,7 @@
 #include "tools/asc/refine.h"
 #include "tools/asc/repair.h"
 
+#include <SFML/System/Err.hpp>
 #include <charconv>
 #include <iostream>
 #include <optional>
@@ -154,6 +155,11 @@ bool load(Input const& input, std::vector<asc::Object>& objects) {
     return true;
 }
 
+int save_picture(std::optional<sf::Image> const& picture, std::string const& out) {
+    if (!picture) return failed("OpenGL cannot draw such a picture off-screen");
+    return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
+}
+
 int convert(Arguments arguments) {
     auto const out = arguments.value("-o");
     bool const flat = arguments.flag("--flat");
@@ -243,26 +249,26 @@ int preview(Arguments arguments) {
     if (only) std::erase_if(objects, [&](asc::Object const& object) { return object.name != *only; });
     if (objects.empty()) return failed(path + " holds no object '" + only.value_or("") + "'");
     std::string const target = out.value_or(path.substr(0, path.rfind(".asc")) + ".png");
-    asc::Canvas const picture = camera ? asc::draw_view(objects, view, 1024, 768) : asc::draw_sheet(objects, 2, 380);
-    return picture.save(target) ? 0 : failed("cannot write " + target);
+    return save_picture(camera ? asc::draw_view(objects, view, 1024, 768) : asc::draw_sheet(objects, 2, 380), target);
 }
 
 int sheet(Arguments arguments) {
     auto const out = arguments.value("-o");
-    int const columns = static_cast<int>(arguments.number("--columns", 1, 100).value_or(5));
-    int const panel = static_cast<int>(arguments.number("--panel", 20, 2000).value_or(150));
+    auto const columns = static_cast<unsigned int>(arguments.number("--columns", 1, 100).value_or(5));
+    auto const panel = static_cast<unsigned int>(arguments.number("--panel", 20, 2000).value_or(150));
     arguments.no_more_options();
     if (!arguments.error.empty()) return failed(arguments.error);
     if (!out || arguments.rest.empty()) return failed("sheet needs mesh files and -o OUT.png");
     std::vector<asc::Object> objects;
     for (std::string const& path : arguments.rest)
         if (!load({"", path}, objects)) return 1;
-    return asc::draw_sheet(objects, columns, panel).save(*out) ? 0 : failed("cannot write " + *out);
+    return save_picture(asc::draw_sheet(objects, columns, panel), *out);
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
+    sf::err().rdbuf(nullptr); // its complaints about files would double ours
     std::vector<std::string> const words(argv + 1, argv + argc);
     if (words.empty() || words[0] == "--help" || words[0] == "-h") {
         (words.empty() ? std::cerr : std::cout) << help;

@@ -1,19 +1,63 @@
 #include "tools/asc/picture.h"
 
-#include "kore/frustum.h"
-#include "tools/asc/creases.h"
+#include "effekt/simplemodel.h"
+#include "kore/camera.h"
+#include "runtime/frame.h"
+#include "tools/lettering/lettering.h"
+#include "tools/offscreen/framebuffer.h"
+#include "tools/offscreen/offscreencontext.h"
 
+#include <GL/gl.h>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <optional>
 
 namespace asc {
 
 namespace {
 
-constexpr int fine = 3; ///< pictures are drawn this many times larger and shrunk
-constexpr std::uint8_t black = 0, grey = 170, white = 255;
+/// A picture to draw into, in the show's OpenGL state.
+struct Target {
+    OffscreenContext context;
+    Framebuffer framebuffer;
+
+    bool Open(unsigned int width, unsigned int height) {
+        if (!context.Open()) return false;
+        if (!framebuffer.Create(width, height, std::min(4u, Framebuffer::MostSamples()))) return false;
+        init_gl();
+        return true;
+    }
+};
+
+void clear_to(float grey) {
+    glClearColor(grey, grey, grey, 0);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
+
+/// The library of the show with this object alone.
+kore::AscModel_ptr library_of(Object const& object) {
+    auto const vertices = std::make_unique<GLfloat[][3]>(object.vertices.size());
+    auto const faces = std::make_unique<int[][3]>(object.faces.size());
+    auto const edges = std::make_unique<int[][3]>(object.faces.size());
+    for (std::size_t i = 0; i < object.vertices.size(); ++i) {
+        Vec3 const& p = object.vertices[i];
+        std::ranges::transform(std::array{p.x, p.y, p.z}, vertices[i],
+                               [](double v) { return static_cast<GLfloat>(v); });
+    }
+    for (std::size_t i = 0; i < object.faces.size(); ++i) {
+        std::ranges::copy(object.faces[i].v, faces[i]);
+        std::ranges::copy(object.faces[i].edge, edges[i]);
+    }
+    auto models = std::make_shared<kore::AscModel>("");
+    int const count = static_cast<int>(object.faces.size());
+    models->GenList(object.name, static_cast<int>(object.vertices.size()), count, count, vertices.get(), faces.get(),
+                    edges.get());
+    return models;
+}
+
+kore::Vector3<float> vector_of(Vec3 v) {
+    return {static_cast<float>(v.x), static_cast<float>(v.y), static_cast<float>(v.z)};
+}
 
 Vec3 turned(Vec3 p, Vec3 degrees) {
     auto const rotate = [](double& a, double& b, double angle) {
@@ -26,61 +70,6 @@ Vec3 turned(Vec3 p, Vec3 degrees) {
     rotate(p.z, p.x, degrees.y);
     rotate(p.y, p.z, degrees.x);
     return p;
-}
-
-/// Edges to draw, by vertex indices.
-std::set<Edge> every_edge(Object const& object) {
-    std::set<Edge> all;
-    for (auto const& [edge, sides] : edges_of(object)) all.insert(edge);
-    return all;
-}
-
-/// The camera's space: x right, y up, z the distance ahead.
-class Eye {
-public:
-    explicit Eye(View const& v) : view(v), ahead(normalised(v.look - v.camera)) {
-        right = normalised(cross(ahead, {0, 1, 0}));
-        if (length(right) == 0.0) right = {1, 0, 0};
-        up = cross(right, ahead);
-    }
-    Vec3 seen(Vec3 p) const {
-        p = turned({p.x * view.scale.x, p.y * view.scale.y, p.z * view.scale.z}, view.turn) + view.at - view.camera;
-        return {dot(p, right), dot(p, up), dot(p, ahead)};
-    }
-
-private:
-    View const& view;
-    Vec3 ahead, right, up;
-};
-
-constexpr double near_plane = kore::frustum::near_plane;
-static_assert(kore::frustum::field_of_view == 90.0 && kore::frustum::aspect == 1.0); // as projected() has it
-
-Vec3 on_near_plane(Vec3 a, Vec3 b) { return a + (b - a) * ((near_plane - a.z) / (b.z - a.z)); }
-
-/// A point of the camera's space on the picture; nearness is 1/distance.
-Vec3 projected(Vec3 p, int width, int height) {
-    return {(p.x / p.z + 1.0) * 0.5 * width, (1.0 - p.y / p.z) * 0.5 * height, 1.0 / p.z};
-}
-
-/// Draws a triangle of the camera's space, cut at the near plane.
-void draw_cut(Canvas& canvas, std::array<Vec3, 3> const& corners, std::uint8_t shade) {
-    std::vector<Vec3> rest;
-    for (std::size_t i = 0; i < 3; ++i) {
-        Vec3 const a = corners[i], b = corners[(i + 1) % 3];
-        if (a.z >= near_plane) rest.push_back(a);
-        if ((a.z < near_plane) != (b.z < near_plane)) rest.push_back(on_near_plane(a, b));
-    }
-    for (Vec3& p : rest) p = projected(p, canvas.width(), canvas.height());
-    for (std::size_t i = 2; i < rest.size(); ++i) canvas.triangle(rest[0], rest[i - 1], rest[i], shade);
-}
-
-void draw_cut_line(Canvas& canvas, Vec3 a, Vec3 b, std::uint8_t shade) {
-    if (a.z < near_plane && b.z < near_plane) return;
-    if (a.z < near_plane) a = on_near_plane(a, b);
-    if (b.z < near_plane) b = on_near_plane(b, a);
-    Vec3 const p = projected(a, canvas.width(), canvas.height()), q = projected(b, canvas.width(), canvas.height());
-    canvas.line(p, q, shade, 0.002 * std::max(p.z, q.z), fine);
 }
 
 /// How to turn a mesh for its panel: flat ones not at all, others to the side that shows most of them. The first
@@ -99,64 +88,119 @@ Vec3 best_turn(Object const& object, bool flat) {
     return best;
 }
 
-/// One object in a square panel, seen without perspective.
-Canvas draw_panel(Object const& object, int size, bool solid) {
+/// Looks at the middle of the object without perspective, so that all of it is seen.
+void look_at_panel(Object const& object, bool flat) {
     Box const box = box_of(object);
     Vec3 const middle = (box.low + box.high) * 0.5;
-    Vec3 const turn = best_turn(object, box.flat());
-    std::vector<Vec3> places;
-    double reach = 1e-9;
+    Vec3 const turn = best_turn(object, flat);
+    constexpr double stretch = 4.0 / 3.0;
+    double reach = 1e-9, depth = 1e-9;
     for (Vec3 const& p : object.vertices) {
-        Vec3 q = turned(p - middle, turn);
-        q.x *= 4.0 / 3.0;
-        reach = std::max({reach, std::abs(q.x), std::abs(q.y)});
-        places.push_back(q);
+        Vec3 const q = turned(p - middle, turn);
+        reach = std::max({reach, stretch * std::abs(q.x), std::abs(q.y)});
+        depth = std::max({depth, reach, 1.1 * std::abs(q.z)});
     }
-    Canvas canvas(size * fine, size * fine, white);
-    double const f = 0.46 * size * fine / reach;
-    for (Vec3& p : places) p = {0.5 * size * fine + f * p.x, 0.5 * size * fine - f * p.y, f * p.z};
-    auto const place = [&](int v) { return places[static_cast<std::size_t>(v)]; };
-    for (Face const& face : object.faces)
-        canvas.triangle(place(face.v[0]), place(face.v[1]), place(face.v[2]), solid ? black : white);
-    if (!solid)
-        for (auto const& [from, to] : every_edge(object)) canvas.line(place(from), place(to), grey, 0.5 * fine, fine);
-    if (!solid || !box.flat())
-        for (auto const& [from, to] : drawn_edges(object))
-            canvas.line(place(from), place(to), solid ? white : black, fine, fine);
-    return canvas.shrunk(fine);
+    double const half = reach / 0.92;
+    glMatrixMode(GL_PROJECTION);
+    glOrtho(-half / stretch, half / stretch, -half, half, -depth, depth);
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glRotated(turn.x, 1, 0, 0);
+    glRotated(turn.y, 0, 1, 0);
+    glTranslated(-middle.x, -middle.y, -middle.z);
+}
+
+/// Black faces with white lines, or white ones with the lines shown black and all others grey.
+void draw_panel(Object const& object, kore::AscModel_ptr const& models, bool solid) {
+    bool const flat = box_of(object).flat();
+    look_at_panel(object, flat);
+    clear_to(1);
+    effect::SimpleModel model(models, object.name, "");
+    model.SetColor(solid ? 0 : 1);
+    model.DrawWireframe(false);
+    glPolygonOffset(2, 2);
+    model.Draw();
+    if (!solid) {
+        glPolygonOffset(1, 1);
+        glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
+        glColor3f(2 / 3.f, 2 / 3.f, 2 / 3.f);
+        glCallList(models->ModelByIndex(0));
+        glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    }
+    model.DrawSolid(false);
+    model.DrawWireframe(!solid || !flat);
+    model.Draw();
+}
+
+/// The mean of pictures drawn at all shifts by thirds of a pixel, as some drivers smooth faces but not lines.
+template<typename Draw>
+sf::Image smoothed(Target const& target, unsigned int size, Draw draw) {
+    std::vector<unsigned int> sum(std::size_t{4} * size * size);
+    double const third = 2.0 / 3.0 / size; // the picture is 2 wide
+    for (int i = 0; i < 9; ++i) {
+        glMatrixMode(GL_PROJECTION);
+        glLoadIdentity();
+        glTranslated(third * (i % 3 - 1), third * (i / 3 - 1), 0);
+        draw();
+        sf::Image const picture = target.framebuffer.Read();
+        std::transform(sum.begin(), sum.end(), picture.getPixelsPtr(), sum.begin(), std::plus{});
+    }
+    std::vector<sf::Uint8> mean(sum.size());
+    std::ranges::transform(sum, mean.begin(), [](unsigned int s) { return static_cast<sf::Uint8>(s / 9); });
+    sf::Image picture;
+    picture.create(size, size, mean.data());
+    return picture;
 }
 
 } // namespace
 
-Canvas draw_view(std::vector<Object> const& objects, View const& view, int width, int height) {
-    Canvas canvas(width * fine, height * fine, view.white ? black : white);
-    std::uint8_t const body = view.white ? white : black, contrast = view.white ? black : white;
-    Eye const eye(view);
+std::optional<sf::Image> draw_view(std::vector<Object> const& objects, View const& view, unsigned int width,
+                                   unsigned int height) {
+    Target target;
+    if (!target.Open(width, height)) return std::nullopt;
+    clear_to(view.white ? 0 : 1);
+    effect::Camera camera;
+    camera.SetPos(vector_of(view.camera));
+    camera.SetLookPos(vector_of(view.look));
+    camera.Draw();
     for (Object const& object : objects) {
-        std::vector<Vec3> places;
-        for (Vec3 const& p : object.vertices) places.push_back(eye.seen(p));
-        auto const place = [&](int v) { return places[static_cast<std::size_t>(v)]; };
-        for (Face const& face : object.faces)
-            draw_cut(canvas, {place(face.v[0]), place(face.v[1]), place(face.v[2])}, body);
-        if (!view.lines) continue;
-        for (auto const& [from, to] : view.all_lines ? every_edge(object) : drawn_edges(object))
-            draw_cut_line(canvas, place(from), place(to), contrast);
+        kore::AscModel_ptr const models = library_of(object);
+        effect::SimpleModel model(models, object.name, "");
+        model.SetPos(vector_of(view.at));
+        model.SetRot(vector_of(view.turn));
+        model.SetScale(vector_of(view.scale));
+        model.SetColor(view.white ? 1 : 0);
+        model.DrawWireframe(view.lines && !view.all_lines);
+        model.Draw();
+        if (!view.lines || !view.all_lines) continue;
+        model.SetColor(view.white ? 0 : 1);
+        glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
+        model.Draw();
+        glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
     }
-    return canvas.shrunk(fine);
+    return target.framebuffer.Read();
 }
 
-Canvas draw_sheet(std::vector<Object> const& objects, int columns, int panel) {
-    constexpr int caption = 22, gap = 8;
-    int const cell_width = 2 * panel + 3 * gap, cell_height = panel + caption + gap;
-    int const count = static_cast<int>(objects.size());
-    columns = std::clamp(columns, 1, std::max(1, count));
-    Canvas sheet(columns * cell_width, std::max(1, (count + columns - 1) / columns) * cell_height, 225);
-    for (int i = 0; i < count; ++i) {
-        Object const& object = objects[static_cast<std::size_t>(i)];
-        int const x = i % columns * cell_width + gap, y = i / columns * cell_height + gap;
-        sheet.paste(draw_panel(object, panel, true), x, y);
-        sheet.paste(draw_panel(object, panel, false), x + panel + gap, y);
-        sheet.text(x, y + panel + 4, object.name + "  " + std::to_string(object.faces.size()) + " faces", 1, black);
+std::optional<sf::Image> draw_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel) {
+    constexpr unsigned int caption = 22, gap = 8;
+    Target target;
+    if (!target.Open(panel, panel)) return std::nullopt;
+    glEnable(GL_POLYGON_OFFSET_FILL);
+    glEnable(GL_POLYGON_OFFSET_LINE);
+    glDepthFunc(GL_LEQUAL);
+
+    auto const count = static_cast<unsigned int>(objects.size());
+    columns = std::min(columns, count);
+    unsigned int const cell_width = 2 * panel + 3 * gap, cell_height = panel + caption + gap;
+    sf::Image sheet;
+    sheet.create(columns * cell_width, (count + columns - 1) / columns * cell_height, sf::Color(225, 225, 225));
+    for (unsigned int i = 0; i < count; ++i) {
+        Object const& object = objects[i];
+        kore::AscModel_ptr const models = library_of(object);
+        unsigned int const x = i % columns * cell_width + gap, y = i / columns * cell_height + gap;
+        sheet.copy(smoothed(target, panel, [&] { draw_panel(object, models, true); }), x, y);
+        sheet.copy(smoothed(target, panel, [&] { draw_panel(object, models, false); }), x + panel + gap, y);
+        write_text(sheet, x, y + panel + 4, 1, object.name + "  " + std::to_string(object.faces.size()) + " faces");
     }
     return sheet;
 }
