@@ -61,6 +61,9 @@ TEST(RecordOptions, AreAllRead) {
     EXPECT_FALSE(options.wire);
     EXPECT_TRUE(options.frame_after);
     EXPECT_TRUE(read({"--no-wire", "--wire", "--list"}).options.wire) << "the later one holds";
+    EXPECT_FALSE(read({"--no-wire", "--wire", "--no-wire", "--list"}).options.wire);
+    EXPECT_EQ(read({"--columns", "3", "--columns", "07", "--list"}).options.columns, 7u);
+    EXPECT_EQ(read({"--out", "--list", "--beats", "1"}).options.folder, "--list") << "a value is taken as it is";
 }
 
 TEST(RecordOptions, ListNeedsNothingElse) {
@@ -77,10 +80,10 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{},                          "no beats to record, see --beats"},
         {{"--out", "x"},              "no beats to record, see --beats"},
         {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"},
-        {{"--fast"},                  "unknown option '--fast', see --help"},
-        {{"12.4"},                    "unknown option '12.4', see --help"},
-        {{"--beats"},                 "--beats requires a value"},
-        {{"--beats", "1", "--out"},   "--out requires a value"},
+        {{"--fast"},                  "The following argument was not expected: --fast"},
+        {{"12.4"},                    "The following argument was not expected: 12.4"},
+        {{"--beats"},                 "--beats: 1 required LIST missing"},
+        {{"--beats", "1", "--out"},   "--out: 1 required DIR missing"},
         {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats},
         {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats},
         {{"--out", ""},               "--out: '' is not a path"},
@@ -96,6 +99,9 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--size", "99999999999x1"}, "--size: '99999999999x1'" + no_size},
         {{"--samples", "65"},         "--samples: '65' is not a number from 0 to 64"},
         {{"--samples", "four"},       "--samples: 'four' is not a number from 0 to 64"},
+        {{"--samples", "-1"},         "--samples: '-1' is not a number from 0 to 64"},
+        {{"--samples", "0x8"},        "--samples: '0x8' is not a number from 0 to 64"},
+        {{"--samples", " 4"},         "--samples: ' 4' is not a number from 0 to 64"},
         {{"--columns", "0"},          "--columns: '0' is not a number from 1 to 100"},
         {{"--columns", "101"},        "--columns: '101' is not a number from 1 to 100"},
     };
@@ -116,7 +122,14 @@ TEST(RecordOptions, HelpNamesEveryOption) {
         EXPECT_EQ(outcome.error, "");
         for (char const* const name : {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frames",
                                        "--size WxH", "--samples N", "--columns N", "--wire", "--no-wire", "--list"}) {
-            EXPECT_THAT(outcome.out, HasSubstr(std::string("\n    ") + name));
+            EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + name));
         }
     }
+}
+
+TEST(RecordOptions, TellTheVersion) {
+    Outcome const outcome = read({"--version"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, "hardsilence-record " HARDSILENCE_VERSION "\n");
+    EXPECT_EQ(outcome.error, "");
 }

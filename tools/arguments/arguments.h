@@ -1,0 +1,34 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <functional>
+#include <optional>
+#include <string>
+
+/// Gives a program what the tools have in common: --help and --version, and of an option given twice the later one
+/// holds. To be called before options are added.
+void set_up(CLI::App& app);
+
+/// Adds an option with a value, which is told to its reader as it is, even when it is "".
+/// @param type    stands for the value in the help text, for example "WxH"
+/// @param read    returns false where the value is not what it should be
+/// @param wanted  what it should be, for the line about one that is not: "--size: 'x' is not <wanted>"
+void add_value(CLI::App& app, std::string const& name, std::string const& type,
+               std::function<bool(std::string const&)> read, std::string const& wanted, std::string const& help);
+
+/// Reads the command line. Help and version go to standard output, one line about a fault to standard error.
+/// @return the exit status, if the program ends here: 0 after help or version, 1 after a fault
+std::optional<int> read_arguments(CLI::App& app, int argc, char const* const* argv);
+
+/// Reads a decimal number and nothing else, whatever the locale.
+/// @return false, with the number left as it was, for anything else and for what lies outside of least to most
+template<typename Number>
+bool read_number(std::string const& text, Number least, Number most, Number& number) {
+    Number found{};
+    char const* const end = text.data() + text.size();
+    auto const [rest, error] = std::from_chars(text.data(), end, found);
+    bool const good = error == std::errc() && rest == end && found >= least && found <= most;
+    if (good) number = found;
+    return good;
+}
