@@ -111,7 +111,7 @@ TEST_F(Recorder, SheetHoldsThePicturesInTheOrderAskedFor) {
     cell.create(64, 48);
     cell.copy(sheet, 0, 0, sf::IntRect(4, 4, 64, 48));
     EXPECT_EQ(differing_pixels(cell, wire, 0), 0u);
-    cell.copy(sheet, 0, 0, sf::IntRect(4, 74, 64, 48));
+    cell.copy(sheet, 0, 0, sf::IntRect(4, 78, 64, 48));
     EXPECT_EQ(differing_pixels(cell, word, 0), 0u);
 }
 

@@ -77,20 +77,22 @@ class Facet {
 public:
     Facet(Object const& in, std::vector<std::size_t> const& faces, std::set<Edge> const& shown)
         : object(in), plane(in.vertices[index(in.faces[faces[0]].v[0])], normal_of(in, faces)) {
-        for (std::size_t f : faces)
+        for (std::size_t f : faces) {
+            auto const& v = in.faces[f].v;
+            auto const corner = [&](std::size_t i) { return plane.flat(in.vertices[index(v[i])]); };
+            seeds.push_back(CGAL::centroid(corner(0), corner(1), corner(2)));
             for (std::size_t slot = 0; slot < 3; ++slot) {
-                auto const& v = in.faces[f].v;
                 Edge const edge = std::minmax(v[slot], v[(slot + 1) % 3]);
                 if (shown.contains(edge)) outline.push_back(edge);
             }
+        }
     }
 
     /// Triangulates the facet with its outline cut at `cuts`; cuts that the refinement had to add go there too.
     void mesh(Cuts& cuts, double size, double min_angle) {
         build(cuts);
-        std::vector<Point> const seeds = holes();
         Mesher mesher(triangulation);
-        mesher.set_seeds(seeds.begin(), seeds.end());
+        mesher.set_seeds(seeds.begin(), seeds.end(), true);
         double const s = std::sin(min_angle * std::numbers::pi / 180.0);
         mesher.set_criteria(Criteria(s * s, size));
         mesher.refine_mesh();
@@ -144,40 +146,6 @@ private:
         }
     }
 
-    /// A point inside every hole of the outline.
-    std::vector<Point> holes() {
-        // How many outlines lie between a face and the outside: odd inside the facet, even outside and in holes.
-        std::map<Triangulation::Face_handle, int> depth;
-        std::vector<Point> seeds;
-        std::vector<Triangulation::Face_handle> border{triangulation.infinite_face()};
-        std::map<Triangulation::Face_handle, int> next{{border[0], 0}};
-        while (!border.empty()) {
-            auto const start = border.back();
-            border.pop_back();
-            if (depth.contains(start)) continue;
-            int const level = next[start];
-            if (level > 0 && level % 2 == 0) seeds.push_back(CGAL::centroid(triangulation.triangle(start)));
-            std::vector<Triangulation::Face_handle> open{start};
-            depth[start] = level;
-            while (!open.empty()) {
-                auto const f = open.back();
-                open.pop_back();
-                for (int i = 0; i < 3; ++i) {
-                    auto const n = f->neighbor(i);
-                    if (depth.contains(n)) continue;
-                    if (triangulation.is_constrained({f, i})) {
-                        border.push_back(n);
-                        next.emplace(n, level + 1);
-                    } else {
-                        depth[n] = level;
-                        open.push_back(n);
-                    }
-                }
-            }
-        }
-        return seeds;
-    }
-
     void note_new_cuts(Cuts& cuts) {
         for (auto e = triangulation.finite_edges_begin(); e != triangulation.finite_edges_end(); ++e) {
             if (!triangulation.is_constrained(*e)) continue;
@@ -215,6 +183,7 @@ private:
     Object const& object;
     Plane plane;
     std::vector<Edge> outline;
+    std::vector<Point> seeds; ///< points inside: the mesher fills the outline from there
     Triangulation triangulation;
     std::map<Triangulation::Vertex_handle, Vec3> solid; ///< the points on the outline, in the mesh
     std::vector<std::set<double>> built_with;
