@@ -114,6 +114,8 @@ void BrokenModel::InternalDraw() {
     bool const moved = myState == Running || myDirection >= 1;
     bool const wireframe = myDrawWireframe || myKeepWireframe;
     kore::SingleAscModelFull const& model = *myModel;
+    float const grey = Grey();
+    float const negative_grey = NegativeGrey();
 
     glPushMatrix();
     glScalef(myScale.x, myScale.y, myScale.z);
@@ -121,11 +123,11 @@ void BrokenModel::InternalDraw() {
     for (unsigned int i = 0; i < model.count; ++i) {
         if (moved) MovePiece(myValues[i]);
         if (myDrawSolid) {
-            drawColor();
+            Issue(grey);
             glCallList(model.face_models[i]);
         }
         if (wireframe) {
-            drawNegativeColor();
+            Issue(negative_grey);
             glCallList(model.face_wireframes[i]);
         }
         if (moved) {
