@@ -1,6 +1,7 @@
 #include "tools/asc/mesh.h"
 
 #include <algorithm>
+#include <boost/pending/disjoint_sets.hpp>
 #include <cmath>
 #include <numbers>
 
@@ -73,6 +74,23 @@ Edges edges_of(Object const& object) {
             edges[std::minmax(from, to)].push_back({f, slot, from < to});
         }
     return edges;
+}
+
+std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const& edges,
+                                               std::function<bool(Edges::value_type const&)> const& joins) {
+    boost::disjoint_sets_with_storage<> sets(object.faces.size());
+    for (auto const& edge : edges) {
+        if (!joins(edge)) continue;
+        for (Side const& side : edge.second) sets.union_set(edge.second.front().face, side.face);
+    }
+    std::vector<std::vector<std::size_t>> parts;
+    std::map<std::size_t, std::size_t> index; // by the face that stands for the part
+    for (std::size_t f = 0; f < object.faces.size(); ++f) {
+        auto const [at, fresh] = index.emplace(sets.find_set(f), parts.size());
+        if (fresh) parts.emplace_back();
+        parts[at->second].push_back(f);
+    }
+    return parts;
 }
 
 bool closed(Edges const& edges) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -73,6 +74,11 @@ struct Side {
 /// All sides by their edge (lower index, higher index), in face order within an edge.
 using Edges = std::map<std::pair<int, int>, std::vector<Side>>;
 Edges edges_of(Object const& object);
+
+/// The faces in parts that hang together over the edges that `joins` accepts: their indices, each part in rising order,
+/// parts by their first face.
+std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const& edges,
+                                               std::function<bool(Edges::value_type const&)> const& joins);
 
 /// True when every edge belongs to exactly two faces.
 bool closed(Edges const& edges);

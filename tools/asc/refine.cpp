@@ -46,32 +46,6 @@ struct Plane {
     Vec3 solid(Point const& p) const { return origin + u * p.x() + v * p.y(); }
 };
 
-/// Splits the mesh's faces into facets: the facet's number for each face.
-std::vector<int> facets_of(Object const& object, Edges const& edges, std::set<Edge> const& shown) {
-    std::vector<int> facet(object.faces.size(), -1);
-    int count = 0;
-    for (std::size_t first = 0; first < facet.size(); ++first) {
-        if (facet[first] >= 0) continue;
-        std::vector<std::size_t> open{first};
-        facet[first] = count;
-        while (!open.empty()) {
-            auto const v = object.faces[open.back()].v;
-            open.pop_back();
-            for (std::size_t slot = 0; slot < 3; ++slot) {
-                Edge const edge = std::minmax(v[slot], v[(slot + 1) % 3]);
-                if (shown.contains(edge)) continue;
-                for (Side const& side : edges.at(edge))
-                    if (facet[side.face] < 0) {
-                        facet[side.face] = count;
-                        open.push_back(side.face);
-                    }
-            }
-        }
-        ++count;
-    }
-    return facet;
-}
-
 /// One facet: its outline in the mesh and, after `mesh`, its triangles.
 class Facet {
 public:
@@ -206,15 +180,9 @@ Cuts even_cuts(Object const& object, std::set<Edge> const& shown, double size) {
 bool refine(Object& object, double size, double min_angle) {
     Edges const edges = edges_of(object);
     std::set<Edge> const shown = creases(object);
-    std::vector<int> const number = facets_of(object, edges, shown);
-    std::vector<std::vector<std::size_t>> members;
-    for (std::size_t f = 0; f < number.size(); ++f) {
-        members.resize(std::max(members.size(), static_cast<std::size_t>(number[f]) + 1));
-        members[static_cast<std::size_t>(number[f])].push_back(f);
-    }
     std::vector<Facet> facets;
-    facets.reserve(members.size());
-    for (auto const& faces : members) facets.emplace_back(object, faces, shown);
+    auto const within_a_facet = [&](auto const& edge) { return !shown.contains(edge.first); };
+    for (auto const& faces : parts_of(object, edges, within_a_facet)) facets.emplace_back(object, faces, shown);
 
     Cuts cuts = even_cuts(object, shown, size);
     // A facet may cut an edge that it shares; then its neighbour is made again with that cut.
