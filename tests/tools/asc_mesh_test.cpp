@@ -40,8 +40,9 @@ asc::Object square_with_hole() {
 
 std::vector<std::string> fault_texts(asc::Object const& object, bool shattered = false) {
     std::vector<std::string> texts;
-    for (asc::Fault const& fault : asc::faults_of(asc::ReadObject{object, 1, {}, {}}, shattered))
+    for (asc::Fault const& fault : asc::faults_of(asc::ReadObject{object, 1, {}, {}}, shattered)) {
         texts.push_back(fault.text);
+    }
     return texts;
 }
 
@@ -151,8 +152,9 @@ TEST(AscRepair, CleanTakesAThinFaceOutWithoutOpeningAGap) {
 TEST(AscRepair, WindTurnsAClosedMeshOutwardWhicheverFacesWereTurned) {
     for (unsigned mask : {0U, 1U, 0xFFFU, 0x555U}) {
         asc::Object object = cube();
-        for (std::size_t f = 0; f < object.faces.size(); ++f)
+        for (std::size_t f = 0; f < object.faces.size(); ++f) {
             if (mask >> f & 1U) std::swap(object.faces[f].v[0], object.faces[f].v[1]);
+        }
         asc::wind(object);
         EXPECT_DOUBLE_EQ(asc::volume(object), 8.0) << mask;
         asc::flag_creases(object);

@@ -18,8 +18,6 @@ Vec3 normalised(Vec3 a) {
     return l < 1e-300 ? Vec3{} : a * (1.0 / l);
 }
 
-double Box::size() const { return std::max({high.x - low.x, high.y - low.y, high.z - low.z}); }
-
 Box box_of(Object const& object) {
     if (object.vertices.empty()) return {};
     Box box{object.vertices.front(), object.vertices.front()};
@@ -45,8 +43,9 @@ Vec3 face_normal(Object const& object, Face const& face) {
 
 double face_height(Object const& object, Face const& face) {
     double longest = 0.0;
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         longest = std::max(longest, length(corner(object, face, i + 1) - corner(object, face, i)));
+    }
     return longest > 0.0 ? length(face_normal(object, face)) / longest : 0.0;
 }
 
@@ -67,12 +66,13 @@ bool degenerate(Object const& object, Face const& face) {
 
 Edges edges_of(Object const& object) {
     Edges edges;
-    for (std::size_t f = 0; f < object.faces.size(); ++f)
+    for (std::size_t f = 0; f < object.faces.size(); ++f) {
         for (int slot = 0; slot < 3; ++slot) {
             int const from = object.faces[f].v[static_cast<std::size_t>(slot)];
             int const to = object.faces[f].v[static_cast<std::size_t>((slot + 1) % 3)];
             edges[std::minmax(from, to)].push_back({f, slot, from < to});
         }
+    }
     return edges;
 }
 
@@ -99,8 +99,9 @@ bool closed(Edges const& edges) {
 
 double volume(Object const& object) {
     double sum = 0.0;
-    for (Face const& face : object.faces)
+    for (Face const& face : object.faces) {
         sum += dot(corner(object, face, 0), cross(corner(object, face, 1), corner(object, face, 2)));
+    }
     return sum / 6.0;
 }
 

@@ -43,10 +43,8 @@ struct Object {
 /// The smallest box around all vertices; both corners (0, 0, 0) when there are none.
 struct Box {
     Vec3 low, high;
-    /// The longest side, units.
-    double size() const;
     /// True when the box has no extent along z (within 1e-9): the object is a flat shape across the view.
-    bool flat() const { return high.z - low.z < 1e-9; }
+    bool IsFlat() const { return high.z - low.z < 1e-9; }
 };
 Box box_of(Object const& object);
 

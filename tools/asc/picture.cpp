@@ -112,7 +112,7 @@ void look_at_panel(Object const& object, bool flat) {
 
 /// Black faces with white lines, or white ones with the lines shown black and all others grey.
 void draw_panel(Object const& object, kore::AscModel_ptr const& models, bool solid) {
-    bool const flat = box_of(object).flat();
+    bool const flat = box_of(object).IsFlat();
     look_at_panel(object, flat);
     clear_to(1);
     effect::SimpleModel model(models, object.name, "");

@@ -98,7 +98,7 @@ void dissolve_thin_faces(Object& object) {
 void drop_loose(Object& object) {
     std::vector<int> to(object.vertices.size(), -1);
     std::vector<Vec3> kept;
-    for (Face& face : object.faces)
+    for (Face& face : object.faces) {
         for (int& v : face.v) {
             int& index = to[static_cast<std::size_t>(v)];
             if (index < 0) {
@@ -107,6 +107,7 @@ void drop_loose(Object& object) {
             }
             v = index;
         }
+    }
     object.vertices = std::move(kept);
 }
 
