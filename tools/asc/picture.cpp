@@ -140,7 +140,8 @@ sf::Image smoothed(Target const& target, unsigned int size, Draw draw) {
     for (int i = 0; i < 9; ++i) {
         glMatrixMode(GL_PROJECTION);
         glLoadIdentity();
-        glTranslated(third * (i % 3 - 1), third * (i / 3 - 1), 0);
+        int const right = i % 3 - 1, up = i / 3 - 1;
+        glTranslated(third * right, third * up, 0);
         draw();
         sf::Image const picture = target.framebuffer.Read();
         std::transform(sum.begin(), sum.end(), picture.getPixelsPtr(), sum.begin(), std::plus{});
