@@ -29,13 +29,14 @@ struct Tally {
 
 Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
     Tally tally;
-    for (int y = part.top; y < part.top + part.height; ++y)
+    for (int y = part.top; y < part.top + part.height; ++y) {
         for (int x = part.left; x < part.left + part.width; ++x) {
             int const level = image.getPixel(static_cast<unsigned int>(x), static_cast<unsigned int>(y)).r;
             tally.black += level == 0 ? 1 : 0;
             tally.white += level == 255 ? 1 : 0;
             tally.ink += (255 - level) / 255.0;
         }
+    }
     return tally;
 }
 
@@ -275,8 +276,9 @@ TEST_F(AscCommand, TellsItsUseAndItsVersion) {
     Outcome const help = call("--help");
     EXPECT_EQ(help.status, 0);
     for (char const* const word : {"convert", "--weld DISTANCE", "join", "check", "--shatter", "preview",
-                                   "--camera X,Y,Z", "--no-lines ", "sheet", "--panel PIXELS"})
+                                   "--camera X,Y,Z", "--no-lines ", "sheet", "--panel PIXELS"}) {
         EXPECT_NE(help.said.find(word), std::string::npos) << word;
+    }
     EXPECT_EQ(call("--help 2>/dev/null #").said, help.said);
     EXPECT_EQ(call("convert --help").status, 0);
     EXPECT_EQ(call("").status, 1);

@@ -6,7 +6,7 @@
 #include <SFML/System/Err.hpp>
 #include <iostream>
 #include <limits>
-#include <ranges>
+#include <sstream>
 
 namespace {
 
@@ -24,8 +24,9 @@ struct Tool {
 bool read_vector(std::string const& text, asc::Vec3& vector) {
     constexpr double most = std::numeric_limits<double>::max();
     std::vector<double> found;
-    for (auto const part : std::views::split(text, ',')) {
-        if (!read_number(std::string(part.begin(), part.end()), -most, most, found.emplace_back())) return false;
+    std::istringstream parts(text + ',');
+    for (std::string part; std::getline(parts, part, ',');) {
+        if (!read_number(part, -most, most, found.emplace_back())) return false;
     }
     if (found.size() == 1) found.resize(3, found[0]);
     if (found.size() == 3) vector = {found[0], found[1], found[2]};
@@ -116,8 +117,8 @@ void add_sheet(CLI::App& app, Tool& tool) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    sf::err().rdbuf(nullptr); // its complaints about files would double ours
+int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
+    sf::err().rdbuf(nullptr);     // its complaints about files would double ours
     CLI::App app("Makes the show's meshes of model files, checks them and draws them.", "asc");
     set_up(app);
     app.require_subcommand(0, 1);
