@@ -5,8 +5,9 @@
 // usage: frametimes [WIDTH HEIGHT SAMPLES]     1024 768 4
 
 #include "bench/showrun.h"
-#include "tools/record/framebuffer.h"
-#include "tools/record/offscreen.h"
+#include "runtime/frame.h"
+#include "tools/offscreen/framebuffer.h"
+#include "tools/offscreen/offscreencontext.h"
 
 #include <GL/gl.h>
 #include <algorithm>
@@ -61,11 +62,12 @@ int main(int argc, char** argv) {
     std::vector<std::vector<double>> times(show->SceneCount());
     double first = 0;
     while (show->Next()) {
+        int const frame = show->FrameNumber();
         double const took = milliseconds([&] {
             show->Frame();
             glFinish();
         });
-        if (show->FrameNumber() == 0) first = took;
+        if (frame == 0) first = took;
         times[show->Scene()].push_back(took);
     }
     std::printf("%s, %d x %d, %d samples a pixel\n", OffscreenContext::Renderer().c_str(), width, height, samples);
