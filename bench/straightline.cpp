@@ -58,13 +58,12 @@ std::string write_frame() {
 
 } // namespace
 
+// clang-format off
 // NOLINTNEXTLINE(bugprone-macro-parentheses): in them it is no declaration
-#define RECORDED(name, parameters, arguments)                                                                          \
-    void name parameters { Record{#name} arguments; }
+#define RECORDED(name, parameters, arguments) void name parameters { Record{#name} arguments; }
 
 extern "C" {
 
-// clang-format off
 RECORDED(glBegin, (GLenum mode), (mode))
 RECORDED(glEnd, (), ())
 RECORDED(glVertex3f, (GLfloat x, GLfloat y, GLfloat z), (x, y, z))
@@ -84,9 +83,8 @@ RECORDED(glClear, (GLbitfield mask), (mask))
 RECORDED(glClearColor, (GLclampf r, GLclampf g, GLclampf b, GLclampf a), (r, g, b, a))
 RECORDED(gluLookAt, (GLdouble ex, GLdouble ey, GLdouble ez, GLdouble cx, GLdouble cy, GLdouble cz, GLdouble ux,
                      GLdouble uy, GLdouble uz), (ex, ey, ez, cx, cy, cz, ux, uy, uz))
-// clang-format on
-
 } // extern "C"
+// clang-format on
 
 int main(int argc, char** argv) {
     int const every = argc > 1 ? std::atoi(argv[1]) : 0;
