@@ -26,10 +26,13 @@ double milliseconds(Work work) {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// Prints what a scene has taken, and forgets it.
 void print_scene(char const* name, std::vector<double>& times) {
     std::sort(times.begin(), times.end());
     auto const at = [&](std::size_t percent) { return times[(times.size() - 1) * percent / 100]; };
     std::printf("%-11s %7zu %9.2f %9.2f %9.2f %9.2f\n", name, times.size(), at(0), at(50), at(99), at(100));
+    std::fflush(stdout);
+    times.clear();
 }
 
 } // namespace
@@ -59,21 +62,22 @@ int main(int argc, char** argv) {
         glFinish();
     });
 
-    std::vector<std::vector<double>> times(show->SceneCount());
-    double first = 0;
+    std::vector<double> times;
+    std::size_t scene = 0;
     while (show->Next()) {
-        int const frame = show->FrameNumber();
-        double const took = milliseconds([&] {
+        if (show->Scene() != scene) print_scene(show->SceneName(scene), times);
+        scene = show->Scene();
+        bool const first = show->FrameNumber() == 0;
+        times.push_back(milliseconds([&] {
             show->Frame();
             glFinish();
-        });
-        if (frame == 0) first = took;
-        times[show->Scene()].push_back(took);
+        }));
+        if (!first) continue;
+        std::printf("%s, %d x %d, %d samples a pixel\n", OffscreenContext::Renderer().c_str(), width, height, samples);
+        std::printf("opening the driver %.1f ms, the show's construction %.1f ms, its first picture %.1f ms\n", driver,
+                    construction, times.front());
+        std::printf("%-11s %7s %9s %9s %9s %9s   ms\n", "scene", "frames", "fastest", "median", "99th", "slowest");
     }
-    std::printf("%s, %d x %d, %d samples a pixel\n", OffscreenContext::Renderer().c_str(), width, height, samples);
-    std::printf("opening the driver %.1f ms, the show's construction %.1f ms, its first picture %.1f ms\n", driver,
-                construction, first);
-    std::printf("%-11s %7s %9s %9s %9s %9s   ms\n", "scene", "frames", "fastest", "median", "99th", "slowest");
-    for (std::size_t i = 0; i < times.size(); ++i) print_scene(show->SceneName(i), times[i]);
+    print_scene(show->SceneName(scene), times);
     return 0;
 }
