@@ -1,5 +1,5 @@
-#include "difference.h"
 #include "studio.h"
+#include "tests/support/images.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "difference.h"
 #include "references.h"
 #include "studio.h"
+#include "tests/support/images.h"
 
 #include <gtest/gtest.h>
 #include <vector>

@@ -47,6 +47,10 @@ struct Score {
 /// All scenes, in the order of the show.
 std::vector<Score> const& all();
 
+/// The show beat on which a scene begins.
+/// @param scene  its place in the order of the show, from 0
+int first_beat(std::size_t scene);
+
 /// Length of the show, beats.
 constexpr int show_beats = 384;
 

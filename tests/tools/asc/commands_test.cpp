@@ -1,25 +1,17 @@
 // The mesh tool as a program: its commands, its messages and its exit status.
 
+#include "tests/support/command.h"
+#include "tests/support/temp.h"
 #include "tools/asc/ascfile.h"
 
 #include <SFML/Graphics/Image.hpp>
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <filesystem>
 #include <string>
 
+using support::Outcome;
+
 namespace {
-
-namespace fs = std::filesystem;
-
-struct Outcome {
-    int status;
-    std::string said; ///< both streams
-};
 
 /// What a part of a picture holds.
 struct Tally {
@@ -43,41 +35,22 @@ Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
 /// Each test works in an empty folder of its own.
 class AscCommand : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("asc_command_test." + std::to_string(getpid()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     Outcome call(std::string const& arguments) const {
-        std::string const command = "cd '" + folder.string() + "' && '" ASC_PROGRAM "' " + arguments + " 2>&1";
-        std::FILE* const pipe = popen(command.c_str(), "r");
-        EXPECT_TRUE(pipe);
-        std::string said;
-        std::array<char, 4096> buffer{};
-        while (std::size_t const n = std::fread(buffer.data(), 1, buffer.size(), pipe)) said.append(buffer.data(), n);
-        int const status = pclose(pipe);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, said};
+        return support::run_shell("'" ASC_PROGRAM "' " + arguments, {.folder = folder.Path("")});
     }
-    void put(std::string const& name, std::string const& text) const {
-        ASSERT_TRUE(asc::write_text((folder / name).string(), text));
-    }
-    std::string get(std::string const& name) const {
-        std::string text;
-        EXPECT_TRUE(asc::read_text((folder / name).string(), text)) << name;
-        return text;
-    }
+    void put(std::string const& name, std::string const& text) const { folder.Write(name, text); }
+    std::string get(std::string const& name) const { return support::read_all(folder.Path(name)); }
 
-    /// The part of the picture that `preview` draws, all of it unless told.
+    /// The part of the picture that `preview` draws, all of it by default.
     Tally preview(std::string const& arguments, sf::IntRect const& part = {0, 0, 1024, 768}) const {
         EXPECT_EQ(call("preview " + arguments + " -o view.png").status, 0);
         sf::Image image;
-        EXPECT_TRUE(image.loadFromFile((folder / "view.png").string()));
+        EXPECT_TRUE(image.loadFromFile(folder.Path("view.png")));
         EXPECT_EQ(image.getSize(), sf::Vector2u(1024, 768));
         return tally_of(image, part);
     }
 
-    fs::path folder;
+    support::TempFolder const folder;
 };
 
 /// A box 2 x 1 x 1 with faces of four corners, one of them turned the wrong way.
@@ -96,7 +69,7 @@ char const triangle_stl[] = "solid s\nfacet normal 0 0 1\nouter loop\nvertex 0 0
 TEST_F(AscCommand, ConvertMakesAMeshWithoutFaults) {
     put("box.obj", box_obj);
     Outcome const run = call("convert box.obj -o box.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("box.asc"));
     EXPECT_TRUE(file.faults.empty());
     ASSERT_EQ(file.objects.size(), 1U);
@@ -111,7 +84,7 @@ TEST_F(AscCommand, ConvertTakesSeveralInputsUnderTheNamesGiven) {
     put("a.off", tetrahedron_off);
     put("b.stl", triangle_stl);
     Outcome const run = call("convert One=a.off Two_b=b.stl -o both.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("both.asc"));
     ASSERT_EQ(file.objects.size(), 2U);
     EXPECT_EQ(file.objects[0].object.name, "One");
@@ -121,7 +94,7 @@ TEST_F(AscCommand, ConvertTakesSeveralInputsUnderTheNamesGiven) {
 TEST_F(AscCommand, ConvertFlatRefinedAndCentred) {
     put("box.obj", box_obj);
     Outcome const run = call("convert --flat --centre 0,0,0.5 --refine 0.3 --min-angle 25 box.obj -o flat.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("flat.asc"));
     ASSERT_EQ(file.objects.size(), 1U);
     asc::Object const& object = file.objects[0].object;
@@ -152,8 +125,8 @@ TEST_F(AscCommand, CheckPrintsEveryObjectAndEveryFaultWithItsLine) {
     put("a.off", tetrahedron_off);
     EXPECT_EQ(call("convert a.off -o a.asc").status, 0);
     Outcome const good = call("check a.asc");
-    EXPECT_EQ(good.said, "a.asc: a: 4 vertices, 4 faces, x -1.000..1.000 y -1.000..1.000 z -1.000..1.000, closed, "
-                         "smallest angle 60.0, 0% below 15\n");
+    EXPECT_EQ(good.output, "a.asc: a: 4 vertices, 4 faces, x -1.000..1.000 y -1.000..1.000 z -1.000..1.000, closed, "
+                           "smallest angle 60.0, 0% below 15\n");
     std::string text = get("a.asc");
     text.replace(text.find("AB:1 BC:1 CA:1"), 14, "AB:1 BC:0 CA:1");
     put("b.asc", text);
@@ -162,7 +135,7 @@ TEST_F(AscCommand, CheckPrintsEveryObjectAndEveryFaultWithItsLine) {
     put("c.asc", text);
     Outcome const bad = call("check c.asc");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_EQ(bad.said, "c.asc:8: expected vertex 4 with X, Y and Z; the header's counts may be wrong\n");
+    EXPECT_EQ(bad.output, "c.asc:8: expected vertex 4 with X, Y and Z; the header's counts may be wrong\n");
 }
 
 TEST_F(AscCommand, PreviewDrawsFacesAndLinesAsTheShowDoes) {
@@ -197,7 +170,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);
     ASSERT_EQ(call("sheet square.asc box.asc square.asc --columns 2 --panel 200 -o sheet.png").status, 0);
     sf::Image image;
-    ASSERT_TRUE(image.loadFromFile((folder / "sheet.png").string()));
+    ASSERT_TRUE(image.loadFromFile(folder.Path("sheet.png")));
     EXPECT_EQ(image.getSize(), sf::Vector2u(2 * 424, 2 * 230));
 
     // A square is drawn 4/3 as wide as it is high, over 0.92 of the panel: 184 x 138 pixels. Four sides are black, the
@@ -218,7 +191,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     EXPECT_EQ(image.getPixel(432 + 160, 8 + 80), sf::Color::Black) << "a face beside it";
 
     ASSERT_EQ(call("preview square.asc").status, 0);
-    EXPECT_TRUE(image.loadFromFile((folder / "square.png").string())) << "without a camera it draws a sheet";
+    EXPECT_TRUE(image.loadFromFile(folder.Path("square.png"))) << "without a camera it draws a sheet";
     EXPECT_EQ(image.getSize(), sf::Vector2u(784, 410));
 }
 
@@ -264,12 +237,13 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         SCOPED_TRACE(arguments);
         Outcome const run = call(arguments);
         EXPECT_EQ(run.status, 1);
-        EXPECT_EQ(run.said, "asc: " + line + "\n");
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(run.error, "asc: " + line + "\n");
     }
     Outcome const junk = call("convert junk.off -o a.asc");
     EXPECT_EQ(junk.status, 1);
-    EXPECT_TRUE(junk.said.starts_with("asc: junk.off: "));
-    EXPECT_EQ(std::count(junk.said.begin(), junk.said.end(), '\n'), 1);
+    EXPECT_TRUE(junk.error.starts_with("asc: junk.off: "));
+    EXPECT_EQ(std::count(junk.error.begin(), junk.error.end(), '\n'), 1);
 }
 
 TEST_F(AscCommand, TellsItsUseAndItsVersion) {
@@ -277,14 +251,15 @@ TEST_F(AscCommand, TellsItsUseAndItsVersion) {
     EXPECT_EQ(help.status, 0);
     for (char const* const word : {"convert", "--weld DISTANCE", "join", "check", "--shatter", "preview",
                                    "--camera X,Y,Z", "--no-lines ", "sheet", "--panel PIXELS"}) {
-        EXPECT_NE(help.said.find(word), std::string::npos) << word;
+        EXPECT_NE(help.output.find(word), std::string::npos) << word;
     }
-    EXPECT_EQ(call("--help 2>/dev/null #").said, help.said);
+    EXPECT_EQ(help.error, "");
     EXPECT_EQ(call("convert --help").status, 0);
-    EXPECT_EQ(call("").status, 1);
-    EXPECT_EQ(call("").said, help.said) << "without a command, too";
-    EXPECT_EQ(call("2>&1 >/dev/null #").said, help.said);
-    EXPECT_EQ(call("--version").said, "asc " HARDSILENCE_VERSION "\n");
+    Outcome const bare = call("");
+    EXPECT_EQ(bare.status, 1);
+    EXPECT_EQ(bare.output, "");
+    EXPECT_EQ(bare.error, help.output) << "without a command, the help";
+    EXPECT_EQ(call("--version").output, "asc " HARDSILENCE_VERSION "\n");
     EXPECT_EQ(call("--version").status, 0);
 }
 

@@ -3,6 +3,34 @@
 #include <SFML/Graphics/Image.hpp>
 #include <algorithm>
 #include <cstdlib>
+#include <string>
+#include <vector>
+
+/// What tests look for in pictures.
+
+inline sf::Image plain_image(unsigned int width, unsigned int height, sf::Color color = sf::Color::White) {
+    sf::Image image;
+    image.create(width, height, color);
+    return image;
+}
+
+/// The picture as rows of '#' for black and '.' for the rest.
+inline std::vector<std::string> dots(sf::Image const& image) {
+    std::vector<std::string> rows;
+    for (unsigned int y = 0; y < image.getSize().y; ++y) {
+        std::string& row = rows.emplace_back();
+        for (unsigned int x = 0; x < image.getSize().x; ++x) {
+            row += image.getPixel(x, y) == sf::Color::Black ? '#' : '.';
+        }
+    }
+    return rows;
+}
+
+inline long black_pixels(sf::Image const& image) {
+    long count = 0;
+    for (std::string const& row : dots(image)) count += std::count(row.begin(), row.end(), '#');
+    return count;
+}
 
 /// How different two pictures are: the number of pixels of which a channel differs by more than the tolerance; all
 /// pixels where the sizes differ.
@@ -26,10 +54,9 @@ inline unsigned int differing_pixels(sf::Image const& a, sf::Image const& b, int
     return count;
 }
 
-/// Share of black pixels, per cent.
+/// Share of pixels that are black, or nearly so, per cent.
 inline double black_share(sf::Image const& image) {
-    sf::Image black;
-    black.create(image.getSize().x, image.getSize().y, sf::Color::Black);
-    double const all = image.getSize().x * image.getSize().y;
-    return 100 * (all - differing_pixels(image, black)) / all;
+    sf::Vector2u const size = image.getSize();
+    double const all = size.x * size.y;
+    return 100 * (all - differing_pixels(image, plain_image(size.x, size.y, sf::Color::Black))) / all;
 }
