@@ -26,13 +26,13 @@ bool is_shattered(Kind kind) { return kind == flat_shattered || kind == solid_sh
 
 char const* const same = ""; ///< a file named like its one object
 
-/// From where to where, in units of the mesh.
+/// Along one axis, in units of the mesh.
 struct Range {
     double low, high;
 };
 
-/// What one object should be. Boxes and counts change with the sources in content/models/: look at the model again
-/// before they are changed here.
+/// What one object should be. Boxes and counts change with the sources in content/models/: look at the model before
+/// you change them here.
 struct Model {
     char const* in_file;
     char const* object;
@@ -113,7 +113,7 @@ class EveryFile : public testing::TestWithParam<std::string> {};
 class EveryModel : public testing::TestWithParam<Model> {};
 class EveryShatteredModel : public testing::TestWithParam<Model> {};
 
-/// The shattered ones but for the ball, which is made of slim bars.
+/// The shattered ones except the ball, which is made of slim bars.
 std::vector<Model> shattered_models() {
     std::vector<Model> shattered;
     for (Model const& model : models) {
@@ -163,7 +163,7 @@ TEST_P(EveryFile, HasNoFault) {
         ADD_FAILURE() << GetParam() << ".asc:" << fault.line << ": " << fault.text;
 }
 
-// The loader takes a short line between objects for the end of the file when nothing but a name may follow.
+// Where only a name may follow, the loader takes a short line for the end of the file.
 TEST_P(EveryFile, EndsItsLinesWithCarriageReturnAndLineFeedAndHasNoBlankLineAtItsEnd) {
     std::string const text = text_of(GetParam());
     ASSERT_GT(text.size(), 4U);
@@ -220,7 +220,7 @@ TEST_P(EveryModel, HasItsFacesAndNotTooManyToShatter) {
     }
 }
 
-// Written out once more here, without the tool's own notion of creases and of drawing.
+// Written a second time, without the tool's own code for creases and drawing.
 using Line = std::pair<int, int>;
 
 Line line(int from, int to) { return {std::min(from, to), std::max(from, to)}; }
@@ -243,7 +243,7 @@ TEST_P(EveryModel, DrawsExactlyItsCreases) {
         auto const [a, b, c] = face.v;
         if (face.edge[0] == 1) drawn.insert(line(a, b));
         if (face.edge[1] == 1) drawn.insert(line(b, c));
-        if (face.edge[1] == 1) drawn.insert(line(c, a)); // the list asks for BC here, not for CA
+        if (face.edge[1] == 1) drawn.insert(line(c, a)); // the list uses the flag of BC here, not of CA
         for (Line const& side : {line(a, b), line(b, c), line(c, a)})
             normals[side].push_back(unit_normal(*object, face));
     }
@@ -286,7 +286,7 @@ TEST_P(EveryModel, IsClosedAndLooksOutwardOrLiesFlatAndLooksToTheViewer) {
     }
 }
 
-// Splinters as thin as needles would show when a mesh is taken apart.
+// Needle-thin splinters would show when a mesh falls apart.
 TEST_P(EveryShatteredModel, FallsIntoPiecesWithDecentAngles) {
     Model const& model = GetParam();
     asc::Object const* const object = find(model);
@@ -324,8 +324,7 @@ TEST(Solids, ReachExactlyToTheirRadius) {
     }
 }
 
-// The shells turn about the origin and the shattered shapes about theirs: mirror images of their points must be there
-// too.
+// The shells turn about the origin, so every point must have its mirror image.
 TEST(Solids, OfBarsAreSymmetrical) {
     for (char const* const name : {"frameoctoball", "hollowsoccerball", "frameicosahedron", "torus2", "donut2"}) {
         SCOPED_TRACE(name);

@@ -1,5 +1,5 @@
-// The whole show, with one mesh file after the other that is not as it should be: each in a process of its own, as the
-// show may end with an assertion report.
+// The whole show with one damaged mesh file after another, each time in a process of its own: the show may abort with
+// an assertion report.
 
 #include "tests/faults/datafiles.h"
 #include "tests/show/scores.h"
@@ -22,22 +22,22 @@ using testing::HasSubstr;
 namespace {
 
 constexpr uid_t nobody = 65534;
-constexpr int cannot_change_user = 2;       ///< exit status of a play
+constexpr int cannot_change_user = 2;       ///< exit status of the child
 constexpr int too_short_or_long = 3;        ///< the same
-constexpr std::chrono::seconds longest{10}; ///< whoever takes longer hangs
+constexpr std::chrono::seconds longest{10}; ///< more than this is a hang
 
 /// What the show does without the file.
 enum class Need {
     Ordinary, ///< ends: a model of the ordinary store
     Pieces,   ///< ends: a model by triangle
-    Word,     ///< ends: one of several models in one file, looked for in a file of its own then
-    None,     ///< goes on without a picture of it
+    Word,     ///< ends: one of several models in one file; the show then looks for a file of that name
+    None,     ///< continues and does not draw it
 };
 
 struct Row {
     char const* file;
     Need need;
-    char const* first; ///< of several models: the one that is missed first
+    char const* first; ///< of several models: the first one looked for
 };
 
 // clang-format off
@@ -90,7 +90,7 @@ protected:
     }
 
     /// Plays the whole show, a few frames a beat, on an OpenGL that does nothing.
-    /// @param user  who plays; 0 for the one that runs the test
+    /// @param user  who plays it; 0 for the user who runs the test
     Outcome Play(uid_t user = 0) const {
         auto const play = [user] {
             if (user != 0 && setuid(user) != 0) return cannot_change_user;

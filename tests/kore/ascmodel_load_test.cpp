@@ -20,7 +20,7 @@ class Loader : public testing::Test {
 protected:
     void SetUp() override { gl::reset(gl::Logging::Sums); }
 
-    /// Loads a file by its path; keeps what that printed.
+    /// Loads a file by its path; keeps what is printed.
     int Load(std::string const& path, bool full = false) {
         testing::internal::CaptureStdout();
         int const result = models.LoadModelFromFile(path, full);
@@ -124,7 +124,7 @@ TEST_F(Loader, ReportsAFileThatMayNotBeRead) {
     std::string const path = temp.Write("secret.asc", "text");
     ASSERT_EQ(chmod(temp.Path("").c_str(), 0755), 0);
     ASSERT_EQ(chmod(path.c_str(), 0), 0);
-    bool const root = geteuid() == 0; // who may read every file
+    bool const root = geteuid() == 0; // root may read every file
     if (root && seteuid(nobody) != 0) GTEST_SKIP() << "root may read every file, and cannot become nobody here";
     EXPECT_EQ(Load(path), -1);
     EXPECT_THAT(printed, MatchesRegex(line_of("Could not open file " + path)));
@@ -137,7 +137,7 @@ TEST_F(Loader, PutsTheFolderInFrontOfTheNameAsItIs) {
     EXPECT_EQ(kore::AscModel("tests/data/go").LoadModel("od.asc"), 0);
 }
 
-TEST_F(Loader, AnswersOneOrZeroForThePerTriangleStore) {
+TEST_F(Loader, ReturnsOneOrZeroForThePerTriangleStore) {
     testing::internal::CaptureStdout();
     EXPECT_EQ(models.LoadModelFull("two-objects.asc"), 1);
     EXPECT_EQ(models.LoadModelFull("face-count-too-low.asc"), 0);
@@ -214,7 +214,7 @@ TEST_F(Loader, TakesAsMuchAsItsTablesHoldAndNoMore) {
 TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
     struct {
         int vertices, faces;
-        char const* last; ///< and the line that takes its place
+        char const* last; ///< and the line that replaces it
         char const* odd;
         char const* message;
     } const meshes[] = {

@@ -17,7 +17,7 @@ namespace {
 constexpr int cannot_enter_folder = 126;
 constexpr int cannot_start = 127;
 
-/// A file without a name that takes what a child writes.
+/// An anonymous file for what a child writes.
 class Capture {
 public:
     Capture() : file(std::tmpfile()) {
@@ -96,7 +96,7 @@ Outcome run_in_child(std::function<int()> const& work, Surroundings const& surro
         error.Take(STDERR_FILENO);
         be_child(work, surroundings);
     }
-    setpgid(child, child); // whoever of both comes first
+    setpgid(child, child); // in both processes, so that it is done in time for either
     int const status = wait_or_kill(child, surroundings.limit);
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, WIFSIGNALED(status) ? WTERMSIG(status) : 0, output.Text(),
             error.Text()};

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// What tests look for in pictures.
+/// Pictures, made and compared.
 
 inline sf::Image plain_image(unsigned int width, unsigned int height, sf::Color color = sf::Color::White) {
     sf::Image image;
@@ -35,10 +35,10 @@ inline long black_pixels(sf::Image const& image) {
 /// How different two pictures are: the number of pixels of which a channel differs by more than the tolerance; all
 /// pixels where the sizes differ.
 ///
-/// Counted, never averaged: one software renderer draws the same pixels on every run, whatever its threads and vector
-/// width; another version of it flips a few pixels along edges, and flips them completely. An average cannot tell that
-/// from a whole thing that is a little too bright or a line that is gone; the count can. The tolerance only forgives
-/// the rounding of samples that are mixed.
+/// Counted, never averaged: a software renderer draws the same pixels on every run, whatever its threads and vector
+/// width; another version of it changes a few pixels along edges, and changes them completely. An average cannot tell
+/// that from an object that is slightly too bright or a missing line; a count can. The tolerance only allows for the
+/// rounding of averaged samples.
 inline unsigned int differing_pixels(sf::Image const& a, sf::Image const& b, int tolerance = 16) {
     sf::Vector2u const size = a.getSize();
     if (size != b.getSize()) return std::max(size.x * size.y, b.getSize().x * b.getSize().y);
@@ -54,7 +54,7 @@ inline unsigned int differing_pixels(sf::Image const& a, sf::Image const& b, int
     return count;
 }
 
-/// Share of pixels that are black, or nearly so, per cent.
+/// Share of pixels that are black or nearly so, percent.
 inline double black_share(sf::Image const& image) {
     sf::Vector2u const size = image.getSize();
     double const all = size.x * size.y;

@@ -41,7 +41,7 @@ protected:
     void put(std::string const& name, std::string const& text) const { folder.Write(name, text); }
     std::string get(std::string const& name) const { return support::read_all(folder.Path(name)); }
 
-    /// The part of the picture that `preview` draws, all of it by default.
+    /// The tally of a part of the picture that `preview` draws, by default all of it.
     Tally preview(std::string const& arguments, sf::IntRect const& part = {0, 0, 1024, 768}) const {
         EXPECT_EQ(call("preview " + arguments + " -o view.png").status, 0);
         sf::Image image;
@@ -155,7 +155,7 @@ TEST_F(AscCommand, PreviewDrawsFacesAndLinesAsTheShowDoes) {
     std::string const moved = "square.asc --no-lines --camera 0,0,2 --scale 1,0.5,1 --turn 0,0,90 --at -1,0,-2";
     EXPECT_EQ(preview(moved).black, 128 * 192);
     EXPECT_EQ(preview(moved, {512 - 128 - 64, 384 - 96, 128, 192}).black, 128 * 192);
-    // From the right by as much, looking that way too.
+    // From 1 to the right, looking 1 to the right.
     EXPECT_EQ(preview("square.asc --no-lines --camera 1,0,2 --look 1,0,0", {0, 192, 512, 384}).black, inside);
     // White lines take from the black body; a square's diagonal is hidden unless all lines are drawn.
     std::string const aside = " --camera 0,0,4 --turn 20,30,0";
@@ -182,7 +182,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     EXPECT_EQ(image.getPixel(308, 60), sf::Color::White) << "between the lines";
     EXPECT_GT(tally_of(image, {8, 208, 408, 22}).black, 60) << "the caption";
     EXPECT_EQ(tally_of(image, {8, 238, 200, 200}).ink, solid.ink) << "an object twice";
-    EXPECT_EQ(tally_of(image, {424, 230, 424, 230}).white, 0) << "nothing more there";
+    EXPECT_EQ(tally_of(image, {424, 230, 424, 230}).white, 0) << "nothing else there";
 
     // The box's nearest corner, turned by 25 degrees about x and -30 about y, lies at (150, 96); three lines meet
     // there.
@@ -208,7 +208,7 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"convert -o a.asc", "INPUT is required"},
         {"convert a.off -o", "-o: 1 required OUT.asc missing"},
         {"convert --fast a.off -o a.asc", "The following argument was not expected: --fast"},
-        {"convert --refine nought a.off -o a.asc", "--refine: 'nought' is not a number from 0.0001 to 1000000"},
+        {"convert --refine none a.off -o a.asc", "--refine: 'none' is not a number from 0.0001 to 1000000"},
         {"convert --refine -1 a.off -o a.asc", "--refine: '-1' is not a number from 0.0001 to 1000000"},
         {"convert --weld nan a.off -o a.asc", "--weld: 'nan' is not a number from 0.000001 to 1000"},
         {"convert --min-angle 50 a.off -o a.asc", "--min-angle: '50' is not a number from 0 to 30"},
@@ -246,7 +246,7 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
     EXPECT_EQ(std::count(junk.error.begin(), junk.error.end(), '\n'), 1);
 }
 
-TEST_F(AscCommand, TellsItsUseAndItsVersion) {
+TEST_F(AscCommand, PrintsItsHelpAndItsVersion) {
     Outcome const help = call("--help");
     EXPECT_EQ(help.status, 0);
     for (char const* const word : {"convert", "--weld DISTANCE", "join", "check", "--shatter", "preview",

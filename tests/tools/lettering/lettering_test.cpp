@@ -34,14 +34,14 @@ TEST(Lettering, EveryPrintableCharacterFitsAndDiffersFromTheOthers) {
     for (char a = ' '; a <= '~'; ++a) {
         std::string const letter(1, a);
         for (char b = ' '; b < a; ++b) {
-            bool const same = a == '|' && b == 'l'; // the font's only pair
+            bool const same = a == '|' && b == 'l'; // the only identical pair of the font
             EXPECT_EQ(drawn(letter) == drawn(std::string(1, b)), same) << a << " and " << b;
         }
         sf::Image tight = plain_image(text_width(letter), text_height);
         sf::Image wide = plain_image(20, 20);
         write_text(tight, 0, 0, 1, letter);
         write_text(wide, 0, 0, 1, letter);
-        EXPECT_EQ(black_pixels(tight), black_pixels(wide)) << a << " is larger than it says";
+        EXPECT_EQ(black_pixels(tight), black_pixels(wide)) << a << " is wider than text_width says";
     }
 }
 

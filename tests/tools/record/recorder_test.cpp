@@ -16,14 +16,14 @@ using support::read_all;
 
 namespace {
 
-/// The short names of the scenes, as a message lists them.
+/// The short names of the scenes, as messages list them.
 std::string names() {
     std::string list;
     for (SceneEntry const& scene : running_order()) list += (list.empty() ? "" : ", ") + std::string(scene.name);
     return list;
 }
 
-/// A beat as files are named by it: "020.100".
+/// A beat as it appears in file names: "020.100".
 std::string padded(double beats) {
     std::ostringstream text;
     text << std::fixed << std::setprecision(3) << std::setw(7) << std::setfill('0') << beats;
@@ -96,7 +96,7 @@ TEST_F(Recorder, SheetHoldsThePicturesInTheOrderAskedFor) {
     EXPECT_EQ(differing_pixels(cell, word, 0), 0u);
 }
 
-TEST_F(Recorder, DrawsThePulseWireUnlessToldOtherwise) {
+TEST_F(Recorder, DrawsThePulseWireByDefault) {
     ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out with", {"HARDSILENCE_WIRE=0"}).status, 0);
     ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out without --no-wire", {"HARDSILENCE_WIRE=1"}).status, 0);
     EXPECT_NE(read_all(In("with/beat_184.500.png")), read_all(In("without/beat_184.500.png")));
