@@ -10,7 +10,7 @@ void report_error(char const* unit, int line, char const* function, std::string 
 }
 
 void assertion_failed(char const* expression, char const* unit, int line, char const* function) {
-    // glibc's own function behind assert(): it knows the program's name and the platform's wording.
+    // glibc's own reporter behind assert(): it knows the program's name and the platform's wording.
     __assert_fail(expression, unit, static_cast<unsigned int>(line), function);
 }
 

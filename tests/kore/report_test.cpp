@@ -28,7 +28,7 @@ TEST(Report, NamesItsPlaceRelativeToTheSourceRoot) {
 TEST(Report, OfAHoldingAssertionIsNothing) {
     int runs = 0;
     KORE_ASSERT_AT(++runs > 0, "kore/boat.cpp", 1, "f()");
-    EXPECT_EQ(runs, 1); // the asserted expression is evaluated once
+    EXPECT_EQ(runs, 1); // the asserted expression does its work once
 }
 
 TEST(ReportDeathTest, OfABrokenAssertionIsThePlatformsLine) {
@@ -55,7 +55,7 @@ TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
 TEST(ReadFile, RefusesWhatMemoryCannotHold) {
     support::TempFolder const temp;
     std::string const path = temp.Write("large", "");
-    std::filesystem::resize_file(path, std::uintmax_t{1} << 36); // entirely a hole
+    std::filesystem::resize_file(path, std::uintmax_t{1} << 36); // all of it a hole
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_AS, &before), 0);
     rlimit const little{rlim_t{1} << 32, before.rlim_max};
