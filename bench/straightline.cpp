@@ -27,13 +27,17 @@ std::string text(double value) {
 std::string text(float value) { return text(static_cast<double>(value)) + "f"; }
 std::string text(unsigned int value) { return std::to_string(value) + "u"; }
 
-template<typename... Arguments>
-void record(std::string const& name, Arguments... arguments) {
-    if (!recording) return;
-    std::string list;
-    ((list += (list.empty() ? "" : ", ") + text(arguments)), ...);
-    calls.push_back(name + "(" + list + ");");
-}
+struct Record {
+    char const* name;
+
+    template<typename... Arguments>
+    void operator()(Arguments... arguments) const {
+        if (!recording) return;
+        std::string list;
+        ((list += (list.empty() ? "" : ", ") + text(arguments)), ...);
+        calls.push_back(std::string(name) + "(" + list + ");");
+    }
+};
 
 /// Writes a frame as functions; the compiler takes long over very long ones.
 /// @return the calls of these functions
@@ -54,34 +58,33 @@ std::string write_frame() {
 
 } // namespace
 
-#define RECORDED(name, parameters, ...)                                                                                \
-    void name parameters { record(#name __VA_OPT__(, ) __VA_ARGS__); }
+// clang-format off
+// NOLINTNEXTLINE(bugprone-macro-parentheses): in them it is no declaration
+#define RECORDED(name, parameters, arguments) void name parameters { Record{#name} arguments; }
 
 extern "C" {
 
-// clang-format off
-RECORDED(glBegin, (GLenum mode), mode)
-RECORDED(glEnd, ())
-RECORDED(glVertex3f, (GLfloat x, GLfloat y, GLfloat z), x, y, z)
-RECORDED(glColor3f, (GLfloat r, GLfloat g, GLfloat b), r, g, b)
-RECORDED(glColor4f, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), r, g, b, a)
-RECORDED(glPushMatrix, ())
-RECORDED(glPopMatrix, ())
-RECORDED(glLoadIdentity, ())
-RECORDED(glTranslatef, (GLfloat x, GLfloat y, GLfloat z), x, y, z)
-RECORDED(glScalef, (GLfloat x, GLfloat y, GLfloat z), x, y, z)
-RECORDED(glRotatef, (GLfloat angle, GLfloat x, GLfloat y, GLfloat z), angle, x, y, z)
-RECORDED(glCallList, (GLuint list), list)
-RECORDED(glLineWidth, (GLfloat width), width)
-RECORDED(glEnable, (GLenum what), what)
-RECORDED(glDisable, (GLenum what), what)
-RECORDED(glClear, (GLbitfield mask), mask)
-RECORDED(glClearColor, (GLclampf r, GLclampf g, GLclampf b, GLclampf a), r, g, b, a)
+RECORDED(glBegin, (GLenum mode), (mode))
+RECORDED(glEnd, (), ())
+RECORDED(glVertex3f, (GLfloat x, GLfloat y, GLfloat z), (x, y, z))
+RECORDED(glColor3f, (GLfloat r, GLfloat g, GLfloat b), (r, g, b))
+RECORDED(glColor4f, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), (r, g, b, a))
+RECORDED(glPushMatrix, (), ())
+RECORDED(glPopMatrix, (), ())
+RECORDED(glLoadIdentity, (), ())
+RECORDED(glTranslatef, (GLfloat x, GLfloat y, GLfloat z), (x, y, z))
+RECORDED(glScalef, (GLfloat x, GLfloat y, GLfloat z), (x, y, z))
+RECORDED(glRotatef, (GLfloat angle, GLfloat x, GLfloat y, GLfloat z), (angle, x, y, z))
+RECORDED(glCallList, (GLuint list), (list))
+RECORDED(glLineWidth, (GLfloat width), (width))
+RECORDED(glEnable, (GLenum what), (what))
+RECORDED(glDisable, (GLenum what), (what))
+RECORDED(glClear, (GLbitfield mask), (mask))
+RECORDED(glClearColor, (GLclampf r, GLclampf g, GLclampf b, GLclampf a), (r, g, b, a))
 RECORDED(gluLookAt, (GLdouble ex, GLdouble ey, GLdouble ez, GLdouble cx, GLdouble cy, GLdouble cz, GLdouble ux,
-                     GLdouble uy, GLdouble uz), ex, ey, ez, cx, cy, cz, ux, uy, uz)
-// clang-format on
-
+                     GLdouble uy, GLdouble uz), (ex, ey, ez, cx, cy, cz, ux, uy, uz))
 } // extern "C"
+// clang-format on
 
 int main(int argc, char** argv) {
     int const every = argc > 1 ? std::atoi(argv[1]) : 0;
