@@ -80,10 +80,14 @@ constexpr Row rows[] = {
     {"header-counts-missing.asc",          -1, 0, "Bad file format"},
     {"header-counts-overflow.asc",         -1, 0, "Bad file format"},
     {"header-counts-wrap.asc",             -1, 0, "Bad file format"},
-    {"face-index-overflow.asc",            -1, 0, "Bad file format in tests/data/face-index-overflow.asc: face 0 has no vertex 9223372036854775807."},
-    {"face-index-wrap.asc",                -1, 0, "Bad file format in tests/data/face-index-wrap.asc: face 0 has no vertex 4294967297."},
-    {"face-index-negative.asc",            -1, 0, "Bad file format in tests/data/face-index-negative.asc: face 0 has no vertex -1."},
-    {"face-index-too-large.asc",           -1, 0, "Bad file format in tests/data/face-index-too-large.asc: face 0 has no vertex 100000."},
+    {"face-index-overflow.asc",            -1, 0,
+     "Bad file format in tests/data/face-index-overflow.asc: face 0 has no vertex 9223372036854775807."},
+    {"face-index-wrap.asc",                -1, 0,
+     "Bad file format in tests/data/face-index-wrap.asc: face 0 has no vertex 4294967297."},
+    {"face-index-negative.asc",            -1, 0,
+     "Bad file format in tests/data/face-index-negative.asc: face 0 has no vertex -1."},
+    {"face-index-too-large.asc",           -1, 0,
+     "Bad file format in tests/data/face-index-too-large.asc: face 0 has no vertex 100000."},
 };
 // clang-format on
 
