@@ -20,6 +20,7 @@ seed 2012 ; every render draws the same numbers
 #include "orchestra/snare.orc"
 #include "orchestra/hats.orc"
 #include "orchestra/impacts.orc"
+#include "orchestra/effects.orc"
 #include "orchestra/bass.orc"
 #include "orchestra/acid.orc"
 #include "orchestra/lead.orc"
@@ -30,6 +31,10 @@ seed 2012 ; every render draws the same numbers
 
 ; What they run through, in this order
 #include "orchestra/space.orc"
+#ifdef STEMS
+#include "orchestra/stems.orc"
+#end
+#include "orchestra/limiter.orc"
 #include "orchestra/master.orc"
 
 ; What they play
