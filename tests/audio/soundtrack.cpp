@@ -49,6 +49,7 @@ Recording const& recording() {
 std::size_t sample_at(double beat) { return static_cast<std::size_t>(std::llround(beat * beat_seconds * rate)); }
 
 std::vector<Stretch> const& sections() {
+    // clang-format off
     static std::vector<Stretch> const table = {
         {"Intro",      0,   16 },
         {"Gun Girl",   16,  64 },
@@ -59,10 +60,12 @@ std::vector<Stretch> const& sections() {
         {"Fountain",   288, 352},
         {"Greets",     352, 384},
     };
+    // clang-format on
     return table;
 }
 
 std::vector<Stretch> const& hard_silences() {
+    // clang-format off
     static std::vector<Stretch> const table = {
         {"before Gun Girl",   15,    16 },
         {"before Swapper",    63,    64 },
@@ -72,6 +75,26 @@ std::vector<Stretch> const& hard_silences() {
         {"before Fountain",   287,   288},
         {"before Greets",     351,   352},
     };
+    // clang-format on
+    return table;
+}
+
+std::vector<Stretch> const& grooves() {
+    // clang-format off
+    static std::vector<Stretch> const table = {
+        {"Gun Girl",           24,  56 },
+        {"Swapper 1",          68,  79 },
+        {"Swapper 2",          84,  95 },
+        {"Swapper 3",          100, 111},
+        {"Swapper 5",          132, 143},
+        {"Swapper 6",          148, 156},
+        {"Tunnelgate, roots",  192, 208},
+        {"Tunnelgate, climax", 224, 248},
+        {"Fountain 1",         292, 303},
+        {"Fountain 3",         324, 335},
+        {"Fountain 4",         340, 350},
+    };
+    // clang-format on
     return table;
 }
 
