@@ -12,6 +12,20 @@ nchnls = 2
 0dbfs  = 1
 seed 2012 ; every render draws the same numbers
 
+; What is asked for (see `render`): the mix, or with one of these macros something to measure
+#define SCORE ##
+#define MIX ##
+#ifdef EVENTS
+#undef SCORE
+#end
+#ifdef VOICES
+#undef SCORE
+#undef MIX
+#end
+#ifdef STEMS
+#undef MIX
+#end
+
 #include "orchestra/pattern.orc"
 #include "orchestra/bus.orc"
 
@@ -33,6 +47,9 @@ seed 2012 ; every render draws the same numbers
 #include "orchestra/space.orc"
 #ifdef STEMS
 #include "orchestra/stems.orc"
+#end
+#ifdef VOICES
+#include "orchestra/audition.orc"
 #end
 #include "orchestra/limiter.orc"
 #include "orchestra/master.orc"

@@ -2,6 +2,7 @@
 
 #include "measure.h"
 #include "scratchfolder.h"
+#include "soundtrack.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>
 
@@ -50,6 +51,16 @@ std::vector<Stem> render_stems() {
     return all;
 }
 
+Voices render_voices() {
+    Voices all;
+    ScratchFolder const folder;
+    if (!render("--voices", folder)) return all;
+    std::ifstream names(folder.Path() + "/voices.txt");
+    for (std::string name; names >> name;) all.names.push_back(name);
+    all.signal = decode(folder.Path() + "/voices.wav").left;
+    return all;
+}
+
 } // namespace
 
 std::vector<Event> const& events() {
@@ -88,6 +99,11 @@ std::vector<float> const& stem(std::string const& name) {
     for (Stem const& one : stems())
         if (one.name == name) return one.signal;
     return none;
+}
+
+Voices const& voices() {
+    static Voices const all = render_voices();
+    return all;
 }
 
 } // namespace soundtrack

@@ -42,4 +42,13 @@ std::vector<Stem> const& stems();
 /// The stem of a name; an empty signal when there is none.
 std::vector<float> const& stem(std::string const& name);
 
+/// The voices one after the other, each struck three times four beats apart: soft (0.5), hard (1) and hard again.
+struct Voices {
+    std::vector<std::string> names;
+    std::vector<float> signal; ///< mono
+};
+
+/// Rendered once per run by `render --voices`; empty when that fails.
+Voices const& voices();
+
 } // namespace soundtrack

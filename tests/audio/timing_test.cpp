@@ -43,7 +43,7 @@ std::vector<double> kick_beats() {
     for (int shape : {0, 1, 4}) add(64 + 16 * shape, 67 + 16 * shape);
     for (int shape : {0, 1, 2, 4, 5}) add(68 + 16 * shape, 79 + 16 * shape);
     add(184, 256);
-    add(284, 287);
+    add(284, 285);
     add(288, 304);
     add(320, 351);
     return beats;

@@ -15,15 +15,15 @@ endop
 ; Closed hat. tone: place in the room, 0 left, 1 right (0 also when left out: a little left).
 instr Hat
   p3 = 0.1
-  ametal cymbal 540 * vary(0.012)
+  ametal cymbal 540 * vary(0.02)
   anoise hiss
   ; A harder stroke opens the top and rings longer
-  aout butterhp ametal * (0.6 + 0.5 * p4) + anoise * 0.5, 6200 * vary(0.06)
-  aout butterlp aout, 8600 + 3000 * p4
-  ilong = (0.045 + 0.035 * p4) * vary(0.15)
+  aout butterhp ametal * (0.6 + 0.5 * p4) + anoise * 0.5, 6200 * vary(0.02)
+  aout butterlp aout, 7400 + 4000 * p4
+  ilong = (0.045 + 0.035 * p4) * vary(0.25)
   aenv expseg 1, ilong, 0.01, 1, 0.01
   afade linseg 1, 0.085, 1, 0.01, 0, 1, 0
-  aleft, aright place aout * aenv * afade * 1.7 * p4 * vary(0.06), (p6 - 0.4) * 0.6
+  aleft, aright place aout * aenv * afade * 1.7 * p4 * vary(0.1), (p6 - 0.4) * 0.6
   drum aleft, aright, 0, 0.08
 endin
 
@@ -31,35 +31,36 @@ endin
 instr OpenHat
   ilength = (0.16 + 0.2 * p6) * vary(0.05)
   p3 = ilength + 0.03
-  ametal cymbal 505 * vary(0.01)
+  ametal cymbal 505 * vary(0.02)
   aleft hiss
   aright hiss
   aleft butterlp butterhp(ametal * 0.8 + aleft * 0.45, 5400), 9200 + 2200 * p4
   aright butterlp butterhp(ametal * 0.8 + aright * 0.45, 5400), 9200 + 2200 * p4
   achick expseg 1.4, 0.012, 1, 1, 1
   aenv linseg 1, 0.02, 0.75, ilength - 0.04, 0.25, 0.03, 0, 1, 0
-  aenv = aenv * achick * 0.62 * p4 * vary(0.05)
+  aenv = aenv * achick * 0.62 * p4 * vary(0.1)
   drum aleft * aenv, aright * aenv, 0, 0.12
 endin
 
-; Ride: a stick on the cymbal's bow, a bell of four modes below, a wash above. tone: how near to the bell.
+; Ride: a stick on the cymbal's bow, a bell of four rough modes below, a wash above. tone: how near to the bell.
 instr Ride
   p3 = 0.5
   ipitch = vary(0.004)
-  a1 oscili 1, 2140 * ipitch, -1, 0.25
-  a2 oscili 0.9, 2987 * ipitch, -1, 0.25
-  a3 oscili 0.8, 3771 * ipitch, -1, 0.25
-  a4 oscili 0.7, 5230 * ipitch, -1, 0.25
+  amod oscili 900, 1117 * ipitch
+  a1 oscili 1, 2140 * ipitch + amod, -1, 0.25
+  a2 oscili 0.9, 2987 * ipitch - amod, -1, 0.25
+  a3 oscili 0.8, 3771 * ipitch + amod * 1.3, -1, 0.25
+  a4 oscili 0.7, 5230 * ipitch - amod * 1.7, -1, 0.25
   aping expseg 1, 0.05 + 0.06 * p4, 0.3, 0.35, 0.012, 1, 0.01
   ametal cymbal 790 * ipitch
   anoise hiss
   abow butterbp ametal, 4700, 2600
-  awash butterlp butterhp(anoise * 0.4 + ametal * 0.5, 7600), 10500
+  awash butterlp butterhp(anoise * 0.4 + ametal * 0.5, 7600), 8000 + 3500 * p4
   awashenv expseg 0.3, 0.03, 1, 0.4, 0.03, 1, 0.02
   astick expseg 1, 0.005, 0.003, 1, 0.003
   afade linseg 1, 0.44, 1, 0.05, 0, 1, 0
-  amodes = (a1 + a2 + a3 + a4) * aping * (0.24 + 0.3 * p6) * (0.5 + 0.6 * p4)
-  aout = (amodes + abow * aping * 0.9 + awash * awashenv * 0.5 + anoise * astick * 0.5 * p4) * afade * p4
+  amodes = (a1 + a2 + a3 + a4) * aping * (0.06 + 0.1 * p6) 
+  aout = (amodes + abow * aping * 0.8 + awash * awashenv * (0.1 + 0.4 * p4) + anoise * astick * 0.5 * p4) * afade * 0.6 * p4
   aleft, aright place aout, 0.25
   drum aleft, aright, 0, 0.05
 endin

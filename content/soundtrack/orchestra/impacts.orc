@@ -17,21 +17,21 @@ instr Slam
   a3 vco2 0.5, iroot * 2
   a4 vco2 0.5, iroot * 3.01, 0, 0.5, 0.3
   a5 vco2 0.5, iroot * 4.02, 0, 0.5, 0.6
-  kiron expseg 2500 + 5500 * p6, 0.4, 700, p3, 160
+  kiron expseg 1200 + (1300 + 5500 * p6) * p4, 0.4, 700, p3, 160
   airon butterlp tanh((a3 + a4 + a5) * 2.5), kiron
   aironenv expseg 1, 0.3, 0.6, p3 - 0.32, 0.01, 0.02, 0.002
   ; Wall and crack
   aleft hiss
   aright hiss
   acentre hiss
-  kcut expseg 3500 + 8500 * p6, 0.5, 1100, 2, 300, 10, 200
+  kcut expseg 1500 + (2000 + 8500 * p6) * p4, 0.5, 500 + 600 * p4, 2, 300, 10, 200
   aleft butterlp aleft * 0.5 + acentre * 0.9, kcut
   aright butterlp aright * 0.5 + acentre * 0.9, kcut
   awall expseg 1, 0.05, 0.6, 0.36, 0.1, p3 - 0.41, 0.001
   acrack expseg 1, 0.02, 0.02, 1, 0.01
   acrack butterbp acentre * acrack, 2600, 2600
   afade linseg 1, p3 - 0.02, 1, 0.02, 0
-  amid = (airon * aironenv * 0.42 + acrack * 1.2) * p4 * afade
+  amid = (airon * aironenv * 0.42 + acrack * (0.2 + p4)) * p4 * afade
   plain aleft * awall * 0.62 * p4 * afade + amid, aright * awall * 0.62 * p4 * afade + amid, 0.35, 0
 endin
 
@@ -46,14 +46,14 @@ instr Impact
   aleft hiss
   aright hiss
   acentre hiss
-  kcut expseg 2500 + 6500 * p6 * (0.6 + 0.4 * p4), 0.4, 800, 2, 260, 10, 200
+  kcut expseg 1200 + (1300 + 6500 * p6) * p4, 0.4, 300 + 500 * p4, 2, 260, 10, 200
   aleft butterlp aleft * 0.5 + acentre * 0.8, kcut
   aright butterlp aright * 0.5 + acentre * 0.8, kcut
   awall expseg 1, 0.05, 0.45, 0.4, 0.07, p3 - 0.45, 0.001
   acrack expseg 1, 0.012, 0.02, 1, 0.01
   acrack butterbp acentre * acrack, 3200, 3000
   afade linseg 1, p3 - 0.02, 1, 0.02, 0
-  amid = acrack * 0.6 * p4 * afade
+  amid = acrack * (0.1 + 0.5 * p4) * p4 * afade
   plain aleft * awall * 0.36 * p4 * afade + amid, aright * awall * 0.36 * p4 * afade + amid, 0.3, 0
 endin
 

@@ -28,8 +28,8 @@ instr Kick
   gaKick = gaKick + (abody * 0.8 + aclick) * p4
   gaRoomL = gaRoomL + abody * 0.06 * p4
   gaRoomR = gaRoomR + abody * 0.06 * p4
-  gaDrumL = gaDrumL + aclick * 0.2 * p4 ; past the glue, so that the attack stays sharp
-  gaDrumR = gaDrumR + aclick * 0.2 * p4
+  gaDrumL = gaDrumL + aclick * 0.34 * p4 ; past the glue, so that the attack stays sharp
+  gaDrumR = gaDrumR + aclick * 0.34 * p4
 endin
 
 ; The floor after the kick: a dark rumble on the sixteenths between. tone: how open it is.

@@ -10,7 +10,10 @@ endop
 
 instr Master
 #ifdef EVENTS
-  event_i "e", 0, 0.01
+  event_i "e", 0, 0
+#end
+#ifdef VOICES
+  schedule "Audition", 0, 1
 #end
   aduck limit gaDuck, 0, 1
   kveil = 17000 * (0.011 ^ port(gkVeil, 0.01))
@@ -53,7 +56,10 @@ instr Master
   aopen delay aopen, giAhead / sr
   aend linseg 1, p3 - 1.6, 1, 1.5, 0, 0.1, 0 ; the tail's own end
   aopen = aopen * aend
-#ifndef STEMS
+#ifdef VOICES
+  fout "$VOICES", 2, (gaPlainL + gaDrumL + gaDuckL + gaPlainR + gaDrumR + gaDuckR) * 0.15 + (gaBass + gaKick + gaBoom) * 0.3
+#end
+#ifdef MIX
   kperiod timeinstk
   if kperiod > giAhead / ksmps then
     fout "$OUT", 16, atone(aleft, 4) * aopen, atone(aright, 4) * aopen

@@ -45,13 +45,13 @@ opcode singer, a, iii
   a3 reson asource, 2650 + 60 * iseat, 170, 1
   a4 reson asource, 3500, 260, 1
   aroot butterlp asource, icps * 1.6
-  xout a1 + a2 * (0.7 + 0.4 * iopen) + a3 * (0.3 + 0.5 * iopen) + a4 * 0.4 * iopen + aroot * 0.25
+  xout a1 * 0.8 + a2 * (1 + 1.2 * iopen) + a3 * (0.8 + 2.2 * iopen) + a4 * 1.6 * iopen + aroot * 0.15
 endop
 
 instr Choir
   p3 = p3 + 0.4
   icps = cpsmidinn(p5)
-  iopen = limit(p6 * (0.5 + 0.5 * p4), 0, 1)
+  iopen = limit(p6 * (0.2 + 0.8 * p4), 0, 1)
   a1 singer icps * 1.002, iopen, 0
   a2 singer icps * 0.997, iopen, 1
   a3 singer icps * 1.006, iopen, 2

@@ -28,7 +28,8 @@ opcode at, 0, iSipoooo
   ibeat, Svoice, ibeats, ilevel, inote, itone, islide, iafter xin
 #ifdef EVENTS
   fprints "$EVENTS", "%.4f %s %.4f %.4f %.2f %.3f\n", giOrigin + ibeat, Svoice, ibeats, ilevel, inote, itone
-#else
+#end
+#ifdef SCORE
   schedule Svoice, seconds(giOrigin + ibeat), seconds(ibeats), ilevel, inote, itone, islide, seconds(iafter)
 #end
 endop

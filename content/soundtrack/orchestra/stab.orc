@@ -43,9 +43,9 @@ instr Accent
   aplateenv expseg 1, 0.12, 0.05, 0.2, 0.01, 1, 0.01
   anoise hiss
   anoise butterlp butterhp(anoise, 4200), 11000
-  agrain expseg 1, 0.05, 0.02, 1, 0.01
+  agrain expseg 1, 0.006, 0.35, 0.05, 0.01, 1, 0.01
   aenv linseg 1, 0.06, 0.5, 0.09, 0.12, 0.1, 0.04, 0.03, 0, 1, 0
-  aout butterhp tanh(asaw * 1.5) * 0.36 * aenv + aplate * aplateenv * aenv * 0.4 + anoise * agrain * 1.1, 220
+  aout butterhp tanh(asaw * 1.5) * 0.36 * aenv + aplate * aplateenv * aenv * 0.4 + anoise * agrain * 1.7, 220
   aleft, aright place aout * (1 - 0.5 * limit(gaDuck, 0, 1)) * p4, (p6 - 0.5) * 1.1
   plain aleft * 1.3, aright * 1.3, 0.2, 0.12
 endin

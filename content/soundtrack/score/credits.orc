@@ -23,7 +23,7 @@ instr Credits
     ilong = (ibeats[iblow] % 8 == 0) ? 0.9 : 0.45
     ilow = iroots[iblow] - (iroots[iblow] > 48 ? 24 : 12)
     at ibeats[iblow], "Stab", ilong, 1.35, iroots[iblow], 1
-    at ibeats[iblow], "Zap", 0.2, 0.45, iroots[iblow] + 24, 0.45
+    at ibeats[iblow], "Zap", 0.2, 0.6, iroots[iblow] + 24, 0.45
     at ibeats[iblow], "Stab", 0.25, 0.8, iroots[iblow] + 12, 0.9
     at ibeats[iblow], "Kick", 0.5, 0.95, 38, 0.5
     at ibeats[iblow], "Crash", 0.5, 0.2

@@ -51,7 +51,7 @@ instr Fountain
   od
 
   ; Round one: theme, kick and bass, and nothing else
-  at 0, "Slam", 5, 1.25, 0, 1
+  at 0, "Slam", 5, 1.25, 0, 0.6
   play 0, 16,  "Kick", gSKicks, 1, 0, 0.3, 1
   play 0, 16,  "Bass", gSFountainBass1, 1, 0, 0.5
   play 0, 16,  "Lead", gSTheme, 1.1, 0, 0.8
@@ -68,7 +68,7 @@ instr Fountain
   play 16, 32, "Reese", gSRootsBright, 0.75, 0, 0.5, 1
   play 16, 32, "Pad", gSChordsBright, 0.4, 0, 0.3, 1
   play 16, 32, "Arp", gSArpBright, 0.9, 0, 0.8
-  play 16, 32, "Wail", gSTheme, 1, 12, 0.8
+  play 16, 32, "Wail", gSTheme, 0.7, 12, 0.7
 
   ; Round three: stabs, a bass against the beat, and the theme in canon, two beats apart and an octave
   at 32, "Impact", 3, 1, 0, 0.6
@@ -78,8 +78,8 @@ instr Fountain
   hits 32, 48, "Hat", "x... x.xx x.xx x.xx .... ...o x.x. xrxr", 0.5
   play 32, 48, "Bass", gSFountainBass3, 1, 0, 0.9
   play 32, 48, "Stab", gSFountainStabs, 0.9, 0, 0.7
-  play 32, 48, "Lead", gSTheme, 0.85, 0, 0.6
-  play 34, 48, "Wail", gSTheme, 0.9, 12, 0.9
+  play 32, 48, "Lead", gSTheme, 0.95, 0, 0.7
+  play 34, 48, "Wail", gSTheme, 0.65, 12, 0.9
 
   ; Round four: all of it, a whole tone up, with a slow melody against the theme
   at 48, "Impact", 3, 1.1, 33, 0.8

@@ -37,11 +37,11 @@ instr GunGirl
   ; Groove
   at 8, "Crash", 4, 0.7
   hits 8, 43, "Kick", "X... X... X... X...", 1, 0, 0.1
-  play 8, 24, "Bass", gSGunBass, 1.35, 0, 0.5
-  play 24, 40, "Bass", gSGunBass, 1.3, 0, 0.45
+  play 8, 24, "Bass", gSGunBass, 1.4, 0, 0.4
+  play 24, 40, "Bass", gSGunBass, 1.35, 0, 0.35
   play 40, 45, "Bass", gSGunBass2, 1.1, 0, 0.6
-  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.42
-  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 1, -12, 0.25
+  hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.36
+  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.85, -12, 0.25
   hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
 
   ; Turn: claps, the gun answers
@@ -49,7 +49,7 @@ instr GunGirl
   at 16, "Crash", 4, 0.35
   hits 16, 44, "Clap", ".... X... .... X...", 0.8
   hits 8, 16, "OpenHat", "..x. ..x. ..x. ..x.", 0.4
-  hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.45
+  hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.4
   play 16, 24, "Zap", ". . . . . . . . . . g4 . . . . . | . . . . . . . . . . bb4 . . c5 . .", 0.45, 0, 0.3
   play 16, 32, "Growl", ". . . . . . . . . . . . . . . . | . . . . . . . . g1! - . g1 . . f1 -", 0.8, 0, 0.8
 
@@ -68,7 +68,7 @@ instr GunGirl
   at 32, "Knock", 2, 0.6, 0, 0.4
   at 32, "Crash", 4, 0.35
   hits 30, 32, "Snare", "..o. x.xr", 0.7, 0, 0.2
-  play 32, 40, "Lead", gSThemeAsk, 0.7, -12, 0.25
+  play 32, 40, "Lead", gSThemeAsk, 0.75, -12, 0.2
   play 32, 40, "Wail", gSThemeAnswer, 0.75, 0, 0.2
   play 32, 46, "Ride", "g4 . . . g4 . . . g4 . . . g4 . . .", 0.9, 0, 0.6
 
@@ -76,7 +76,7 @@ instr GunGirl
   at 40, "Knock", 2, 0.7, 0, 0.5
   at 40, "Crash", 4, 0.35
   hits 38, 40, "Tom", "x.x. xxxx", 0.7, 38, 0.7
-  play 40, 47, "Lead", gSThemeClose, 0.7, -12, 0.4
+  play 40, 47, "Lead", gSThemeClose, 0.7, -12, 0.35
   thin 39, 47
   at 39, "Riser", 8, 0.8, 84, 0.7
   at 43, "Riser", 4, 0.7, 91, 0.4

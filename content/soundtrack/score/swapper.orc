@@ -34,11 +34,11 @@ opcode shape, 0, i
 endop
 
 instr Swapper
-  section p4, 0.3
+  section p4, 0.4
   istraight = 0.15
 
   ; 1, the cube: the drop. The theme, plain.
-  at 0, "Slam", 4, 1.25, 0, 0.9
+  at 0, "Slam", 4, 1.25, 0, 0.7
   at 0, "Crash", 5, 0.9
   shape 0
   hits 0, 3,   "Kick", "X... X... X... X...", 1, 0, istraight
@@ -50,8 +50,8 @@ instr Swapper
   hits 0, 16,  "OpenHat", "..X. ..X. ..X. ..X.", 0.8
   hits 4, 16,  "Clap", ".... .... .... ..o.", 0.6
   play 4, 16,  "Tick", "g5 . . d5 . . . g5 . . bb5 . . d5 . .", 0.8, 0, 0.85
-  play 0, 16,  "Lead", gSTheme, 1.1, 0, 0.65
-  play 0, 16,  "Stab", "g2 . . . . . g2 . . . . . . . . .", 0.6, 0, 0.4
+  play 0, 16,  "Lead", gSTheme, 1.15, 0, 0.65
+  play 0, 16,  "Stab", "g2 . . . . . g2 . . . . . . . . .", 0.85, 0, 0.5
   hits 15, 16, "Tom", "x.xx", 0.8, 43, 0.2
 
   ; 2, the spikes: no theme, octave bass and needles
@@ -81,7 +81,7 @@ instr Swapper
   hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
   play 36, 48, "Tick", "g5 . . d5 . . g5 . . . bb5 . d5 . . g5", 0.8, 0, 0.15
   play 32, 48, "Lead", gSTheme, 0.95, 0, 0.65
-  play 32, 48, "Wail", gSThemeBelow, 0.9, 0, 0.6
+  play 32, 48, "Wail", gSThemeBelow, 0.65, 0, 0.6
   play 32, 48, "Pad", gSChords, 0.6, 0, 0.25, 1
   hits 47, 48, "Tom", "xxxx", 0.8, 40, 0.5
 

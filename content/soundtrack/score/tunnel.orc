@@ -8,9 +8,9 @@ gSTunnelAnvil = "g4! . . . d4 . . . g4! . . . bb4 . . . | g4! . . . d5! . d4 . g
 gSTunnelBass  = ". . g1 g1 . . g1 g1 . . g1 g1 . . g1 bb1 | . . g1 . . . g1 . . . g1 g2~ . . f1 g1"
 
 instr Tunnel
-  section p4, -0.3
+  section p4, 0
 
-  at 0, "Slam", 4, 1.25, 0, 0.8
+  at 0, "Slam", 4, 1.25, 0, 0.6
   at 0, "Crash", 5, 0.9
   sweep 0, 72, 0.02, 1
 
