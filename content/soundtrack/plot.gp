@@ -14,7 +14,8 @@ unset key
 sections = "0 16 64 160 184 256 288 352 384"
 names = "Intro 'Gun Girl' Swapper Credits Tunnelgate Plasma Fountain Greets"
 do for [i = 2:8] {
-    set arrow i from first word(sections, i), graph 0 to first word(sections, i), graph 1 nohead front lw 1.5 lc rgb "#a00000"
+    set arrow i from first word(sections, i), graph 0 to first word(sections, i), graph 1 \
+        nohead front lw 1.5 lc rgb "#a00000"
 }
 
 set tmargin at screen 0.94

@@ -1,10 +1,12 @@
 ; Every voice alone, for measuring only: soft, hard, hard again, four beats each, without rooms, effects and master.
 ; `render --voices` writes it as 16-bit mono; voices.txt names them in their order.
 
-gSAudition[] fillarray "Kick", "Clap", "Snare", "Tom", "Hat", "OpenHat", "Ride", "Tick", "Anvil", "Slam", "Impact", \
-  "Knock", "Accent", "Zap", "Bass", "Reese", "Sub", "Growl", "Acid", "Lead", "Wail", "Stab", "Pad", "Choir", "Shimmer", \
-  "Drone", "Arp", "Bell"
-giNotes[]    fillarray 31, 0, 0, 43, 0, 0, 0, 84, 67, 0, 0, 0, 74, 67, 31, 31, 31, 31, 43, 67, 67, 43, 55, 67, 67, 43, 67, 67
+gSAudition[] fillarray "Kick", "Clap", "Snare", "Tom", "Hat", "OpenHat", "Ride", "Tick", "Anvil", "Slam", \
+                       "Impact", "Knock", "Accent", "Zap", "Bass", "Reese", "Sub", "Growl", "Acid", "Lead", \
+                       "Wail", "Stab", "Pad", "Choir", "Shimmer", "Drone", "Arp", "Bell"
+giNotes[]    fillarray 31, 0, 0, 43, 0, 0, 0, 84, 67, 0, \
+                       0, 0, 74, 67, 31, 31, 31, 31, 43, 67, \
+                       67, 43, 55, 67, 67, 43, 67, 67
 
 instr Audition
   index = 0

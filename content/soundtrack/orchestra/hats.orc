@@ -60,8 +60,8 @@ instr Ride
   astick expseg 1, 0.005, 0.003, 1, 0.003
   afade linseg 1, 0.44, 1, 0.05, 0, 1, 0
   amodes = (a1 + a2 + a3 + a4) * aping * (0.06 + 0.1 * p6) 
-  aout = (amodes + abow * aping * 0.8 + awash * awashenv * (0.1 + 0.4 * p4) + anoise * astick * 0.5 * p4) * afade * 0.6 * p4
-  aleft, aright place aout, 0.25
+  aout = amodes + abow * aping * 0.8 + awash * awashenv * (0.1 + 0.4 * p4) + anoise * astick * 0.5 * p4
+  aleft, aright place aout * afade * 0.6 * p4, 0.25
   drum aleft, aright, 0, 0.05
 endin
 

@@ -57,7 +57,8 @@ instr Master
   aend linseg 1, p3 - 1.6, 1, 1.5, 0, 0.1, 0 ; the tail's own end
   aopen = aopen * aend
 #ifdef VOICES
-  fout "$VOICES", 2, (gaPlainL + gaDrumL + gaDuckL + gaPlainR + gaDrumR + gaDuckR) * 0.15 + (gaBass + gaKick + gaBoom) * 0.3
+  asides = gaPlainL + gaDrumL + gaDuckL + gaPlainR + gaDrumR + gaDuckR
+  fout "$VOICES", 2, asides * 0.15 + (gaBass + gaKick + gaBoom) * 0.3
 #end
 #ifdef MIX
   kperiod timeinstk

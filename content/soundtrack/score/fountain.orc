@@ -1,5 +1,5 @@
-; Fountain, 64 beats: the climax, four rounds of sixteen that share nothing but the theme. Every four beats four flashes,
-; a fifth of a beat apart.
+; Fountain, 64 beats: the climax, four rounds of sixteen that share nothing but the theme. Every four beats four
+; flashes, a fifth of a beat apart.
 
 ; Round one: bare. Round three: off the beat. Round four: both together, running.
 gSFountainBass1 = {{ . . g1! -   . . g1 g2~   . . g1! -   . . g2~ g1~  |

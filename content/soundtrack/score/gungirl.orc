@@ -1,6 +1,7 @@
 ; Gun Girl, 48 beats: the pieces close in for 4, she stands; at 8 the camera jumps and the groove starts;
 ; the background turns at 16, 24, 32 and 40, and something joins each time.
 
+gSGunArp   = "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 ."
 gSGunBass  = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . g1 . g2~ . . bb1 . . c2 ."
 gSGunBass2 = "g1! . . g1 . . g1 . g2~ . . g1 . . f1 . | g1! . . g1 . . ab1 . ab2~ . . f#1 . . f#1 f#1"
 
@@ -41,7 +42,7 @@ instr GunGirl
   play 24, 40, "Bass", gSGunBass, 1.35, 0, 0.35
   play 40, 45, "Bass", gSGunBass2, 1.1, 0, 0.6
   hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.36
-  play 8, 32, "Arp", "g4! . . ab4 . . g4 . . . . f#4! . . g4 . | . . . ab4! . . g4 . . bb4 . . a4 . ab4 .", 0.85, -12, 0.25
+  play 8, 32, "Arp", gSGunArp, 0.85, -12, 0.25
   hits 8, 16, "Tick", "..x. .... ...x ..o.", 0.7, 79, 0.8
 
   ; Turn: claps, the gun answers
