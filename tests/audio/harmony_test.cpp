@@ -133,3 +133,20 @@ TEST(SoundtrackHarmony, KicksLandOnTheRootWhereTheHarmonyMoves) {
     EXPECT_GT(on, 50);
     EXPECT_GE(on, 9 * off);
 }
+
+TEST(SoundtrackHarmony, TheAcidLineSlidesWithoutANewNote) {
+    std::vector<Event> const acid = events_of({"Acid"});
+    int slides = 0;
+    for (Event const& event : acid) {
+        if (event.slide == 0) continue;
+        ++slides;
+        EXPECT_NE(event.slide, event.note) << "beat " << event.beat;
+        EXPECT_LT(event.after, event.beats) << "beat " << event.beat << ": it ends before it slides";
+        double const arrival = event.beat + event.after;
+        EXPECT_TRUE(std::none_of(acid.begin(), acid.end(),
+                                 [&](Event const& other) { return std::abs(other.beat - arrival) < 0.1; }))
+            << "beat " << arrival << " is struck anew";
+    }
+    figure("slides of the acid line", slides);
+    EXPECT_GE(slides, 20);
+}

@@ -77,14 +77,3 @@ TEST(SoundtrackMix, TheBreakdownHasBodyAndAir) {
     EXPECT_LE(body, -3);
     EXPECT_GE(air, -20);
 }
-
-TEST(SoundtrackMix, GroovesHaveABassBetween90And160Hz) {
-    std::vector<double> const edges = {30, 90, 160};
-    measure::BandPowers const powers(recording().Middle(), edges, 8192, 2048);
-    for (Stretch const& groove : soundtrack::grooves()) {
-        std::vector<double> const mean = powers.Mean(groove.from, groove.to);
-        double const under = ratio_db(mean[1], mean[0]);
-        figure(std::string("90 to 160 Hz against 30 to 90 Hz, dB, ") + groove.name, under);
-        EXPECT_GE(under, -7) << groove.name;
-    }
-}

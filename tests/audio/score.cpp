@@ -32,7 +32,8 @@ std::vector<Event> list_events() {
     ScratchFolder const folder;
     if (!render("--events", folder)) return all;
     std::ifstream file(folder.Path() + "/events.txt");
-    for (Event e; file >> e.beat >> e.voice >> e.beats >> e.level >> e.note >> e.tone;) all.push_back(e);
+    for (Event e; file >> e.beat >> e.voice >> e.beats >> e.level >> e.note >> e.tone >> e.slide >> e.after;)
+        all.push_back(e);
     return all;
 }
 

@@ -14,6 +14,8 @@ struct Event {
     double level;      ///< 1 is the voice's normal strength
     double note;       ///< MIDI note, 0 where the score gives none
     double tone;       ///< 0 to 1
+    double slide = 0;  ///< the note that it slides to, 0 where it does not
+    double after = 0;  ///< beats from its start to the slide
 };
 
 /// Every note in the order of the score, listed once per run by `render --events`; empty when that fails.

@@ -140,6 +140,16 @@ TEST(SoundtrackStems, TheBassLiesThreeToSixDecibelsUnderTheKick) {
     }
 }
 
+TEST(SoundtrackStems, TheBassHoldsItsOwnBetween90And160Hz) {
+    std::vector<float> const kick = measure::band(stem("kick"), 90, 160);
+    std::vector<float> const bass = measure::band(stem("basses"), 90, 160);
+    for (Stretch const& groove : soundtrack::grooves()) {
+        double const against = level(bass, groove) - level(kick, groove);
+        figure(std::string("bass against kick, 90 to 160 Hz, dB, ") + groove.name, against);
+        EXPECT_GE(against, -5) << groove.name;
+    }
+}
+
 TEST(SoundtrackStems, GroovesStandInARoom) {
     ASSERT_FALSE(stem("wet").empty());
     std::vector<float> const& wet = stem("wet");

@@ -5,7 +5,7 @@
 opcode pressed, a, aa
   aleft, aright xin
   aenv follow2 abs(aleft) + abs(aright), 0.002, 0.09
-  xout 1 + 0.66 * giPress / (aenv + giPress)
+  xout 1 + 0.6 * giPress / (aenv + giPress)
 endop
 
 instr Master
@@ -47,8 +47,8 @@ instr Master
 
   ; Soft clip, limit, and the silences at the very end
   kdrive = giDrive * gkTrim
-  aleft tone tanh(aleft * kdrive), 15000
-  aright tone tanh(aright * kdrive), 15000
+  aleft tone tanh(aleft * kdrive), 22000
+  aright tone tanh(aright * kdrive), 22000
   aleft butterlp aleft, 17500
   aright butterlp aright, 17500
   aleft, aright limiter aleft, aright

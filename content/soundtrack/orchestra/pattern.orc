@@ -27,7 +27,8 @@ endop
 opcode at, 0, iSipoooo
   ibeat, Svoice, ibeats, ilevel, inote, itone, islide, iafter xin
 #ifdef EVENTS
-  fprints "$EVENTS", "%.4f %s %.4f %.4f %.2f %.3f\n", giOrigin + ibeat, Svoice, ibeats, ilevel, inote, itone
+  fprints "$EVENTS", "%.4f %s %.4f %.4f %.2f %.3f %.2f %.3f\n", \
+    giOrigin + ibeat, Svoice, ibeats, ilevel, inote, itone, islide, iafter
 #end
 #ifdef SCORE
   schedule Svoice, seconds(giOrigin + ibeat), seconds(ibeats), ilevel, inote, itone, islide, seconds(iafter)

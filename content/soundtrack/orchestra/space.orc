@@ -35,6 +35,6 @@ instr Space
 
   aduck limit gaDuck, 0, 1
   aunder = (1 - 0.55 * aduck) * giWetFader
-  gaWetL = (abackl * 0.8 + aplatel * agate * 1.1 + arooml * 0.8 + ahalll * 0.8) * aunder
-  gaWetR = (abackr * 0.8 + aplater * agate * 1.1 + aroomr * 0.8 + ahallr * 0.8) * aunder
+  gaWetL = (abackl * 0.8 + aplatel * agate * 1.6 + arooml * 0.8 + ahalll * 0.8) * aunder
+  gaWetR = (abackr * 0.8 + aplater * agate * 1.6 + aroomr * 0.8 + ahallr * 0.8) * aunder
 endin

@@ -38,8 +38,8 @@ instr GunGirl
   ; Groove
   at 8, "Crash", 4, 0.7
   hits 8, 43, "Kick", "X... X... X... X...", 1, 0, 0.1
-  play 8, 24, "Bass", gSGunBass, 1.4, 0, 0.4
-  play 24, 40, "Bass", gSGunBass, 1.35, 0, 0.35
+  play 8, 24, "Bass", gSGunBass, 1.32, 0, 0.4
+  play 24, 40, "Bass", gSGunBass, 1.28, 0, 0.35
   play 40, 45, "Bass", gSGunBass2, 1.1, 0, 0.6
   hits 8, 47, "Hat", "o.xo o.xo o.xo o.xx", 0.36
   play 8, 32, "Arp", gSGunArp, 0.85, -12, 0.25
@@ -60,7 +60,7 @@ instr GunGirl
   play 24, 40, "Stab", "g2 . . g2 . . . . . . . . . . . . | g2 . . g2 . . bb2 . . . . f2 . . . .", 0.65, 0, 0.15
   hits 8, 24, "Tick", "x.o. ..x. .o.. x.o.", 0.5, 93, 0.15
   hits 24, 47, "Hat", ".o.. .o.. .o.. .o..", 0.4, 0, 1
-  hits 22, 24, "Tom", "..x. x.xx", 0.7, 43, 0.3
+  hits 22, 24, "Tom", "..x. x.xx", 0.55, 43, 0.3
   hits 24, 32, "Tom", ".... ...o ..x. .... | .... ...o ..x. .o..", 0.7, 45, 0.8
   hits 24, 44, "Snare", ".... ...o .... .... | .... ...o .... .o.o", 0.5, 0, 0.3
   at 28, "Zap", 0.2, 0.6, 55, 1
@@ -76,15 +76,15 @@ instr GunGirl
   ; Turn: its second half from one throat, a step brighter, and the floor is drawn away up to the edge
   at 40, "Knock", 2, 0.7, 0, 0.5
   at 40, "Crash", 4, 0.35
-  hits 38, 40, "Tom", "x.x. xxxx", 0.7, 38, 0.7
+  hits 38, 40, "Tom", "x.x. xxxx", 0.6, 38, 0.7
   play 40, 47, "Lead", gSThemeClose, 0.7, -12, 0.35
   thin 39, 47
   at 39, "Riser", 8, 0.8, 84, 0.7
-  at 43, "Riser", 4, 0.7, 91, 0.4
+  at 43, "Riser", 4, 1.1, 91, 0.4
   hits 43, 44, "Kick", "X.x.", 0.9, 0, 0.2
   hits 42, 44, "Snare", "o.o. oxox", 0.6, 0, 0.1
-  hits 44, 46, "Snare", "x.x. xxxx", 0.7, 0, 0.3
-  hits 46, 47, "Snare", "XrXr", 0.9, 0, 0.6
+  hits 44, 46, "Snare", "x.x. xxxx", 0.9, 0, 0.3
+  hits 46, 47, "Snare", "XrXr", 1.2, 0, 0.6
   hits 44, 47, "Hat", "xxxx", 0.7
   chop 46, 47, 48
 endin

@@ -22,8 +22,8 @@ instr Plasma
   ; The title: the theme at half speed
   play 0, 31, "Choir", gSTheme, 1.4, 0, 0.8, 0.5
   play 16, 31, "Choir", gSThemeClose, 0.7, 12, 1, 0.5
-  play 2, 24, "Bell", ". . g5 . . . d5 . . . . . bb4 . . . | . . f5 . . . c5 . . . . . a4 . . .", 0.6, 0, 0.4
-  play 16, 31, "Arp", gSArpBright, 0.9, 12, 0.7, 0.5
+  play 2, 24, "Bell", ". . g5 . . . d5 . . . . . bb4 . . . | . . f5 . . . c5 . . . . . a4 . . .", 0.75, 0, 0.4
+  play 16, 31, "Arp", gSArpBright, 1.2, 12, 0.8, 0.5
 
   ; A heart, and a clock
   hits 0, 24, "Kick", ".... .... x..o ....", 0.5

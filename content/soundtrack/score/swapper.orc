@@ -65,8 +65,8 @@ instr Swapper
   hits 20, 32, "OpenHat", "..X. ..X. ..X. ..X.", 0.7
   sweep 16, 32, 0.25, 0.6
   play 20, 32, "Growl", ". . . . . . . . . . g1! - . bb1 - . | . . . . . . . . . . f1! - . . f#1 -", 0.85, 0, 0.9
-  play 20, 32, "Acid", "g3! . . g3_ bb3 - . g3! . . f3 . g3_ d4 - .", 0.8, 0, 0.4
-  play 24, 32, "Stab", ". . g2 . . . g2 . . . bb2 . . . c3 .", 0.55, 0, 0.6
+  play 20, 32, "Acid", "g3! . . g3_ bb3 - . g3! . . f3 . g3_ d4 - .", 0.95, 0, 0.4
+  play 24, 32, "Stab", ". . g2 . . . g2 . . . bb2 . . . c3 .", 0.85, 0, 0.6
   hits 30, 32, "Snare", ".... o.ox .... xxrr", 0.7, 0, 0.2
   hits 31, 32, "Snare", "xxrr", 0.7, 0, 0.2
 
@@ -81,7 +81,7 @@ instr Swapper
   hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
   play 36, 48, "Tick", "g5 . . d5 . . g5 . . . bb5 . d5 . . g5", 0.8, 0, 0.15
   play 32, 48, "Lead", gSTheme, 0.95, 0, 0.65
-  play 32, 48, "Wail", gSThemeBelow, 0.65, 0, 0.6
+  play 32, 48, "Wail", gSThemeBelow, 0.7, 0, 0.5
   play 32, 48, "Pad", gSChords, 0.6, 0, 0.25, 1
   hits 47, 48, "Tom", "xxxx", 0.8, 40, 0.5
 
@@ -131,7 +131,7 @@ instr Swapper
   play 84, 95, "Bass", gSSwapBass3, 1, 0, 0.75
   hits 80, 95, "Hat", "oxXo oxXo oxXo oxXr", 0.7
   hits 80, 95, "OpenHat", "..X. ..X. ..X. ..X.", 0.8
-  hits 84, 95, "Ride", "X... X... X... X...", 0.9, 0, 0.6
+  hits 84, 95, "Ride", "X... X... X... X...", 1, 0, 0.6
   play 80, 95, "Lead", gSThemeAsk, 1, 0, 0.8
   play 80, 95, "Wail", gSThemeAnswer, 1.1, 0, 0.9
   play 84, 95, "Arp", gSArp, 1, 12, 0.9

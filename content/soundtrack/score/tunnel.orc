@@ -37,8 +37,8 @@ instr Tunnel
     istage += 1
   od
   play 8, 24,  "Bass", gSTunnelBass, 0.85, 0, 0.25
-  play 40, 56, "Bass", gSTunnelBass, 0.85, 5, 0.5
-  play 56, 72, "Bass", gSTunnelBass, 0.85, 7, 0.7
+  play 40, 56, "Bass", gSTunnelBass, 0.8, 5, 0.5
+  play 56, 72, "Bass", gSTunnelBass, 0.8, 7, 0.7
 
   ; Metal joins every eight beats
   hits 8, 72,  "OpenHat", "..X. ..X. ..X. ..X. ..X. ..X. ..X. ..XX", 0.7
