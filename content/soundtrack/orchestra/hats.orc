@@ -19,7 +19,7 @@ instr Hat
   anoise hiss
   ; A harder stroke opens the top and rings longer
   aout butterhp ametal * (0.6 + 0.5 * p4) + anoise * 0.5, 6200 * vary(0.02)
-  aout butterlp aout, 7800 + 4800 * p4
+  aout butterlp aout, 8600 + 5600 * p4
   ilong = (0.045 + 0.035 * p4) * vary(0.25)
   aenv expseg 1, ilong, 0.01, 1, 0.01
   afade linseg 1, 0.085, 1, 0.01, 0, 1, 0
@@ -34,8 +34,8 @@ instr OpenHat
   ametal cymbal 505 * vary(0.02)
   aleft hiss
   aright hiss
-  aleft butterlp butterhp(ametal * 0.8 + aleft * 0.45, 5400), 9600 + 3200 * p4
-  aright butterlp butterhp(ametal * 0.8 + aright * 0.45, 5400), 9600 + 3200 * p4
+  aleft butterlp butterhp(ametal * 0.8 + aleft * 0.45, 5400), 10500 + 4000 * p4
+  aright butterlp butterhp(ametal * 0.8 + aright * 0.45, 5400), 10500 + 4000 * p4
   achick expseg 1.4, 0.012, 1, 1, 1
   aenv linseg 1, 0.02, 0.75, ilength - 0.04, 0.25, 0.03, 0, 1, 0
   aenv = aenv * achick * 0.62 * p4 * vary(0.1)

@@ -57,7 +57,7 @@ instr Credits
 
   ; The floor is drawn away under the last eight beats
   thin 16, 23.5
-  at 16, "Riser", 7.5, 1, 86, 0.6
+  at 16, "Riser", 7.5, 1.5, 86, 0.7
   hits 20, 22, "Snare", "..o. ..oo", 0.6, 0, 0.3
   hits 22, 23.5, "Snare", "..xx .xrr", 0.8, 0, 0.7
   hits 20, 23.5, "Hat", "xxxx", 0.7

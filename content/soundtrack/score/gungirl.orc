@@ -48,7 +48,7 @@ instr GunGirl
   ; Turn: claps, the gun answers
   at 16, "Knock", 2, 0.6, 0, 0.4
   at 16, "Crash", 4, 0.35
-  hits 16, 44, "Clap", ".... X... .... X...", 0.8
+  hits 16, 44, "Clap", ".... X... .... X...", 0.7
   hits 8, 16, "OpenHat", "..x. ..x. ..x. ..x.", 0.4
   hits 16, 47, "OpenHat", "..x. ..x. ..x. ..x.", 0.4
   play 16, 24, "Zap", ". . . . . . . . . . g4 . . . . . | . . . . . . . . . . bb4 . . c5 . .", 0.45, 0, 0.3
@@ -79,8 +79,8 @@ instr GunGirl
   hits 38, 40, "Tom", "x.x. xxxx", 0.6, 38, 0.7
   play 40, 47, "Lead", gSThemeClose, 0.7, -12, 0.35
   thin 39, 47
-  at 39, "Riser", 8, 0.8, 84, 0.7
-  at 43, "Riser", 4, 1.1, 91, 0.4
+  at 39, "Riser", 8, 1, 84, 0.6
+  at 43, "Riser", 4, 1.4, 91, 0.3
   hits 43, 44, "Kick", "X.x.", 0.9, 0, 0.2
   hits 42, 44, "Snare", "o.o. oxox", 0.6, 0, 0.1
   hits 44, 46, "Snare", "x.x. xxxx", 0.9, 0, 0.3

@@ -46,8 +46,8 @@ instr Swapper
   hits 4, 15,  "Kick", "X... X... X... X...", 1, 0, istraight
   hits 4, 15,  "Clap", ".... X... .... X...", 0.9
   play 0, 16,  "Bass", gSSwapBass1, 1, 0, 0.5
-  hits 0, 16,  "Hat", "ooxo ooxo ooxo oxxr", 0.75
-  hits 0, 16,  "OpenHat", "..X. ..X. ..X. ..X.", 0.8
+  hits 0, 16,  "Hat", "ooxo ooxo ooxo oxxr", 0.85
+  hits 0, 16,  "OpenHat", "..X. ..X. ..X. ..X.", 1
   hits 4, 16,  "Clap", ".... .... .... ..o.", 0.6
   play 4, 16,  "Tick", "g5 . . d5 . . . g5 . . bb5 . . d5 . .", 0.8, 0, 0.85
   play 0, 16,  "Lead", gSTheme, 1.15, 0, 0.65
@@ -61,8 +61,8 @@ instr Swapper
   hits 20, 31, "Clap", ".... X... .... X...", 0.9
   hits 19, 20, "Snare", "x.xr", 0.7
   play 16, 32, "Bass", gSSwapBass2, 1.1, 0, 0.7
-  hits 16, 32, "Hat", "xoXo xoXo xoXo xoXr", 0.65
-  hits 20, 32, "OpenHat", "..X. ..X. ..X. ..X.", 0.7
+  hits 16, 32, "Hat", "xoXo xoXo xoXo xoXr", 0.75
+  hits 20, 32, "OpenHat", "..X. ..X. ..X. ..X.", 0.9
   sweep 16, 32, 0.25, 0.6
   play 20, 32, "Growl", ". . . . . . . . . . g1! - . bb1 - . | . . . . . . . . . . f1! - . . f#1 -", 0.85, 0, 0.9
   play 20, 32, "Acid", "g3! . . g3_ bb3 - . g3! . . f3 . g3_ d4 - .", 0.95, 0, 0.4
@@ -77,8 +77,8 @@ instr Swapper
   hits 36, 47, "Clap", ".... X... .... X..o", 0.9
   hits 35, 36, "Tom", "x.xx", 0.8, 38, 0.8
   play 36, 48, "Bass", gSSwapBass3, 0.95, 0, 0.55
-  hits 32, 48, "Hat", "o.xo ooxo o.xo oxxo", 0.75
-  hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.75
+  hits 32, 48, "Hat", "o.xo ooxo o.xo oxxo", 0.85
+  hits 36, 48, "OpenHat", "..X. ..X. ..X. ..X.", 0.95
   play 36, 48, "Tick", "g5 . . d5 . . g5 . . . bb5 . d5 . . g5", 0.8, 0, 0.15
   play 32, 48, "Lead", gSTheme, 0.95, 0, 0.65
   play 32, 48, "Wail", gSThemeBelow, 0.7, 0, 0.5
@@ -90,7 +90,7 @@ instr Swapper
   at 48, "Knock", 3, 0.8, 0, 0.6
   play 48, 64, "Reese", gSRoots, 0.8, 0, 0.6, 1
   play 48, 64, "Pad", gSChords, 0.5, 0, 0.3, 1
-  hits 48, 52, "Hat", "o... x... o... x.o.", 0.6
+  hits 48, 52, "Hat", "o... x... o... x.o.", 0.7
   at 49, "Riser", 2.96, 0.5, 74, 0.4
   at 51, "Suck", 1, 0.7
   at 52, "Impact", 2, 1.3, 0, 0.9
@@ -99,7 +99,7 @@ instr Swapper
                           ab1! . . . . . ab1 . . . . . . . . . }}, 1, 0, 0.3
   hits 52, 63, "Clap", ".... .... X... ....", 1
   hits 52, 63, "Snare", ".... .... X... ...o", 0.7
-  hits 52, 64, "Hat", "x.o. x.oo x.o. xrxo", 0.6
+  hits 52, 64, "Hat", "x.o. x.oo x.o. xrxo", 0.7
   play 48, 64, "Bell", gSThemeBones, 0.8, 0, 0.3
   play 56, 64, "Arp", gSArp, 0.9, 12, 0.7
   at 60, "Riser", 4, 0.7, 79, 0.6
@@ -113,7 +113,7 @@ instr Swapper
   hits 68, 79, "Clap", ".... X... .... X...", 0.9
   play 64, 80, "Bass", gSSwapBass5, 1, 0, 0.95
   play 64, 80, "Rumble", gSSwapRumble5, 0.3, 0, 0.4
-  hits 68, 80, "Hat", "o.Xo o.Xo o.Xo oxXr", 0.7
+  hits 68, 80, "Hat", "o.Xo o.Xo o.Xo oxXr", 0.8
   hits 68, 80, "Ride", "..X. ..X. ..X. ..X.", 0.9, 0, 0.6
   play 64, 80, "Lead", gSTheme, 0.9, -12, 0.9
   play 64, 80, "Growl", gSSwapGrowl5, 1.15, 0, 0.5
@@ -129,8 +129,8 @@ instr Swapper
   hits 81, 83, "Snare", "o.o. xoxo", 0.6, 0, 0.2
   hits 83, 84, "Snare", "xxrr", 0.8, 0, 0.4
   play 84, 95, "Bass", gSSwapBass3, 1, 0, 0.75
-  hits 80, 95, "Hat", "oxXo oxXo oxXo oxXr", 0.7
-  hits 80, 95, "OpenHat", "..X. ..X. ..X. ..X.", 0.8
+  hits 80, 95, "Hat", "oxXo oxXo oxXo oxXr", 0.8
+  hits 80, 95, "OpenHat", "..X. ..X. ..X. ..X.", 1
   hits 84, 95, "Ride", "X... X... X... X...", 1, 0, 0.6
   play 80, 95, "Lead", gSThemeAsk, 1, 0, 0.8
   play 80, 95, "Wail", gSThemeAnswer, 1.1, 0, 0.9
