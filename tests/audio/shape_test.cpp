@@ -23,11 +23,13 @@ struct Drop {
 };
 
 std::vector<Drop> const& drops() {
+    // clang-format off
     static std::vector<Drop> const table = {
-        {64, 1},
+        {64,  1  },
         {184, 0.5},
-        {288, 1},
+        {288, 1  },
     };
+    // clang-format on
     return table;
 }
 

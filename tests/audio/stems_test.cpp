@@ -122,7 +122,8 @@ TEST(SoundtrackStems, EverySustainedVoiceIsHeardWhereverItPlays) {
 }
 
 TEST(SoundtrackStems, TheChoirCarriesTheTitle) {
-    std::vector<Frames> const frames = heard_frames("Choir", {{"Plasma", 256, 287}});
+    Stretch const title = {"Plasma", 256, 287};
+    std::vector<Frames> const frames = heard_frames("Choir", std::vector<Stretch>(1, title));
     ASSERT_GT(frames[0].sounding, 100);
     double const share = 100.0 * frames[0].heard / frames[0].sounding;
     figure("choir heard in Plasma, per cent", share);
