@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 // The shape of the piece: drops that drop, rounds that differ, hits of three sizes, an end that thins out.
 
@@ -35,6 +36,10 @@ std::vector<Drop> const& drops() {
 
 /// How loud a hit arrives: its first half beat, decibels.
 double arrival(double beat) { return measure::level_db(recording().Middle(), sample_at(beat), sample_at(beat + 0.5)); }
+
+double mean(std::vector<double> const& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
+}
 
 double quietest(std::vector<double> const& beats) {
     double least = 0;
@@ -123,15 +128,14 @@ TEST(SoundtrackImpacts, TheFountainsFlashesDoNotPushItsKickAside) {
     std::vector<float> const kicks = measure::band(recording().Middle(), 40, 120);
     std::vector<double> downbeats;
     std::vector<double> others;
-    for (int beat = 292; beat < 348; ++beat) {
-        if (beat >= 304 && beat < 320) continue; // half time
-        (beat % 4 == 0 ? downbeats : others)
-            .push_back(measure::level_db(kicks, sample_at(beat), sample_at(beat + 0.25)));
+    for (int beat = 320; beat < 348; ++beat) { // the rounds in which kick, accents and everything else meet
+        double const level = measure::level_db(kicks, sample_at(beat), sample_at(beat + 0.5));
+        (beat % 4 == 0 ? downbeats : others).push_back(level);
     }
-    double const apart = variety::median(downbeats) - variety::median(others);
+    double const apart = mean(downbeats) - mean(others);
     figure("downbeat's kick against the others, dB", apart);
-    EXPECT_GT(apart, -0.7);
-    EXPECT_LT(apart, 1.5);
+    EXPECT_GT(apart, -0.5);
+    EXPECT_LT(apart, 1);
 }
 
 TEST(SoundtrackEnd, ThinsOutWithoutACliff) {
