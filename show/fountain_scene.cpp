@@ -2,6 +2,7 @@
 #include "show/shells.h"
 #include "show/show.h"
 
+#include "effekt/look.h"
 #include "effekt/torusfountain.h"
 #include "kore/smoothcam.h"
 #include "kore/smoothpositioner.h"
@@ -21,7 +22,7 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 1200});
 
-    auto const blinkers = add_four_blinkers(*scene, length, beat);
+    auto const blinkers = add_four_blinkers(*scene, length, 4, beat);
 
     // One glide of two way points: it travels in the first half of the scene and settles in the second.
     auto route = std::make_shared<Route>();
@@ -36,6 +37,7 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto spin = std::make_shared<kore::StaticRotator>();
     spin->SetSpin({30, 90, 50});
     blinkers[0]->Add(fountain);
+    if (effect::look.calm) blinkers.back()->Add(background);
 
     // clang-format off
     Cue const cues[] = {
