@@ -136,7 +136,7 @@ int main(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     sf::err().rdbuf(nullptr); // its complaints about files would double ours
-    effect::look.standard_wire = options.wire;
+    effect::look = {.standard_wire = options.wire, .calm = options.calm};
     // The caller's paths are meant from where he stands, not from where the data lies.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
