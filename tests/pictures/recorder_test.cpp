@@ -121,6 +121,16 @@ TEST_F(Recorder, DrawsThePulseWireUnlessToldOtherwise) {
     EXPECT_NE(content(In("with/beat_184.500.png")), content(In("without/beat_184.500.png")));
 }
 
+TEST_F(Recorder, DrawsTheCalmShowWhenToldTo) {
+    ASSERT_EQ(Record("--beats 70 --size 64x48 --out full", "HARDSILENCE_CALM=1").status, 0);
+    ASSERT_EQ(Record("--beats 70 --size 64x48 --out calm --calm").status, 0);
+    sf::Image full, calm;
+    ASSERT_TRUE(full.loadFromFile(In("full/beat_070.000.png")));
+    ASSERT_TRUE(calm.loadFromFile(In("calm/beat_070.000.png")));
+    EXPECT_EQ(full.getPixel(0, 0), sf::Color::White); // two beats after a strobe
+    EXPECT_EQ(calm.getPixel(0, 0), sf::Color::Black);
+}
+
 TEST_F(Recorder, ListsTheScenes) {
     Outcome const outcome = Record("--list");
     EXPECT_EQ(outcome.status, 0);
