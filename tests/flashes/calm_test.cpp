@@ -100,7 +100,7 @@ void stall_through(double place) {
 }
 
 TEST(CalmUnrest, IsForEverybodyWhenItStallsAnywhere) {
-    for (double const place : {0.0, 0.5, 1.0, 1.5, 2.0, 2.5}) stall_through(place);
+    for (double const place : {0.0, 1.0, 2.0}) stall_through(place);
     std::mt19937 random = dice();
     stall_through(roll(random, 0, 3));
 }
