@@ -2,7 +2,6 @@
 #include "show/shells.h"
 #include "show/show.h"
 
-#include "effekt/look.h"
 #include "effekt/torusfountain.h"
 #include "kore/smoothcam.h"
 #include "kore/smoothpositioner.h"
@@ -37,7 +36,6 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto spin = std::make_shared<kore::StaticRotator>();
     spin->SetSpin({30, 90, 50});
     blinkers[0]->Add(fountain);
-    if (effect::look.calm) blinkers.back()->Add(background);
 
     // clang-format off
     Cue const cues[] = {
