@@ -3,9 +3,10 @@
 namespace effect {
 
 void Blinking::Blink(BlinkerType const& type, int const& value) {
+    if (myCalm) myHeldCut = type == Strobe && value > 0 && !myHeldCut;
     if (type == Invert) {
         myInverted = value == 1;
-    } else if (type == Strobe) {
+    } else if (type == Strobe && !myCalm) {
         myBlinkCount = static_cast<int>(static_cast<unsigned int>(value) * 2 + 1);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "effekt/look.h"
 #include "kore/blinkerinterface.h"
 
 #include <GL/gl.h>
@@ -7,6 +8,9 @@
 namespace effect {
 
 /// The colours and the blink state that every reacting effect has, and the operations on them.
+///
+/// In the calm mode (Look::calm) a strobe is a cut that is held: its colours swap once, and the next event of any type
+/// swaps them back. Nothing is counted in frames then.
 class Blinking : public kore::BlinkerInterface {
 public:
     bool BlinkerStarted() final { return myStarted; }
@@ -49,8 +53,11 @@ protected:
     bool myStarted = false; ///< updated at least once
 
 private:
+    bool const myCalm = look.calm;
+    bool myHeldCut = false; ///< in the calm mode: since a strobe
+
     /// Inversion and a strobe's flash cancel each other.
-    bool Swapped() const { return myInverted != (myBlinkCount != 0 && myBlinkCount % 2 == 0); }
+    bool Swapped() const { return myInverted != (myHeldCut || (myBlinkCount != 0 && myBlinkCount % 2 == 0)); }
 };
 
 /// An effect that hears Wireframe, too.

@@ -15,5 +15,6 @@ bool is_on(char const* variable) {
 effect::Look look_from_environment() {
     effect::Look look;
     look.standard_wire = is_on("HARDSILENCE_WIRE");
+    look.calm = is_on("HARDSILENCE_CALM");
     return look;
 }

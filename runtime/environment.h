@@ -6,4 +6,5 @@
 /// value:
 ///
 ///     HARDSILENCE_WIRE   Look::standard_wire
+///     HARDSILENCE_CALM   Look::calm
 effect::Look look_from_environment();

@@ -17,6 +17,7 @@ constexpr BlinkRow blinks[] = {
     // beat type        value
     {0,  Blink::Break,  1},  // the pieces close in
     {4,  Blink::Strobe, 56}, // and are whole
+    {8,  Blink::Invert, 0, Show::Calm}, // the camera looks up, and the gyroscope knows of no cut
     {16, Blink::Flip,   1},
     {24, Blink::Flip,   0},
     {32, Blink::Flip,   1},

@@ -2,6 +2,7 @@
 #include "show/show.h"
 
 #include "effekt/brokenmodel.h"
+#include "effekt/look.h"
 #include "effekt/showmodel.h"
 #include "effekt/simplemodel.h"
 #include "kore/routepositioner.h"
@@ -17,7 +18,7 @@ constexpr BlinkRow glass_blinks[] = {
     // beat  type           value
     {12.25f, Blink::Break,  1},
     {12.25f, Blink::Strobe, 2},
-    {14.0f,  Blink::Strobe, 2},
+    {14.0f,  Blink::Strobe, 2, Show::Full}, // the calm show holds the cut to the end
 };
 // clang-format on
 
@@ -45,7 +46,9 @@ std::shared_ptr<effect::ShowModel> make_word(Word const& word, int k, float beat
     model->SetScale({word.scale, word.scale, word.scale});
     model->SetTransitionSpeed(0.25f * beat);
     model->SetShowTime(0.75f * beat);
-    model->SetColor(black);
+    // Deliberate: white on white in the calm show, where a word swings in as an outline and the held cut turns it
+    // black.
+    model->SetColor(effect::look.calm ? white : black);
     return model;
 }
 

@@ -15,6 +15,21 @@ constexpr BlinkRow blinks[] = {
     {28, Blink::Strobe, 9000},
     {0,  Blink::Break,  1},    // Deliberate: nothing here reacts to it
     {28, Blink::Break,  1},
+    // The titles are cut out for the first beat of every four, and black to be read on the other three.
+    {1,  Blink::Strobe, 1, Show::Calm},
+    {4,  Blink::Invert, 0, Show::Calm},
+    {5,  Blink::Strobe, 1, Show::Calm},
+    {8,  Blink::Invert, 0, Show::Calm},
+    {9,  Blink::Strobe, 1, Show::Calm},
+    {12, Blink::Invert, 0, Show::Calm},
+    {13, Blink::Strobe, 1, Show::Calm},
+    {16, Blink::Invert, 0, Show::Calm},
+    {17, Blink::Strobe, 1, Show::Calm},
+    {20, Blink::Invert, 0, Show::Calm},
+    {21, Blink::Strobe, 1, Show::Calm},
+    {24, Blink::Invert, 0, Show::Calm},
+    {25, Blink::Strobe, 1, Show::Calm},
+    {29, Blink::Strobe, 1, Show::Calm},
 };
 // clang-format on
 

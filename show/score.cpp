@@ -1,11 +1,16 @@
 #include "show/score.h"
 
+#include "effekt/look.h"
+
 void add_blink(effect::Blinker& blinker, float at, Blink::BlinkerType type, int value, float beat) {
     blinker.AddEntry(at, beat + beat, type, value);
 }
 
 void add_blinks(effect::Blinker& blinker, std::span<BlinkRow const> rows, float beat) {
-    for (BlinkRow const& row : rows) add_blink(blinker, beat * row.at, row.type, row.value, beat);
+    Show const other = effect::look.calm ? Show::Full : Show::Calm;
+    for (BlinkRow const& row : rows) {
+        if (row.in != other) add_blink(blinker, beat * row.at, row.type, row.value, beat);
+    }
 }
 
 std::shared_ptr<kore::Enabler> make_enabler(Cue const& cue, float beat) {

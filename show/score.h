@@ -27,14 +27,18 @@ constexpr int white = 1;
 /// @param beat  length of one beat, seconds
 void add_blink(effect::Blinker& blinker, float at, Blink::BlinkerType type, int value, float beat);
 
+/// Which show an event belongs to: the full one, the calm one (effect::Look::calm), or both.
+enum class Show { Both, Full, Calm };
+
 /// One event of a blinker.
 struct BlinkRow {
     float at; ///< beats since the scene's first beat
     Blink::BlinkerType type;
     int value;
+    Show in = Show::Both;
 };
 
-/// Schedules rows in their order.
+/// Schedules in their order the rows that belong to the show as effect::look has it.
 /// @param beat  length of one beat, seconds
 void add_blinks(effect::Blinker& blinker, std::span<BlinkRow const> rows, float beat);
 

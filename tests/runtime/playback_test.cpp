@@ -76,23 +76,34 @@ TEST_F(Playback, DoesNotGoBack) {
     EXPECT_EQ(diary->states.size(), 7u);
 }
 
-/// Restores the environment at its end.
-class Environment : public testing::Test {
-protected:
-    ~Environment() override { unsetenv("HARDSILENCE_WIRE"); }
+struct Variable {
+    char const* name;
+    bool effect::Look::*setting;
 };
 
-TEST_F(Environment, AsksForTheWireByTheStandardUnlessItSaysNo) {
-    unsetenv("HARDSILENCE_WIRE");
-    EXPECT_FALSE(look_from_environment().standard_wire);
+/// Restores the environment at its end.
+class Environment : public testing::TestWithParam<Variable> {
+protected:
+    ~Environment() override { unsetenv(GetParam().name); }
+};
+
+TEST_P(Environment, AsksForASettingOfTheLookUnlessItSaysNo) {
+    auto const& [name, setting] = GetParam();
+    unsetenv(name);
+    EXPECT_FALSE(look_from_environment().*setting);
     for (char const* const off : {"", "0"}) {
-        setenv("HARDSILENCE_WIRE", off, 1);
-        EXPECT_FALSE(look_from_environment().standard_wire) << off;
+        setenv(name, off, 1);
+        EXPECT_FALSE(look_from_environment().*setting) << off;
     }
     for (char const* const on : {"1", "yes", "00"}) {
-        setenv("HARDSILENCE_WIRE", on, 1);
-        EXPECT_TRUE(look_from_environment().standard_wire) << on;
+        setenv(name, on, 1);
+        EXPECT_TRUE(look_from_environment().*setting) << on;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Variables, Environment,
+                         testing::Values(Variable{"HARDSILENCE_WIRE", &effect::Look::standard_wire},
+                                         Variable{"HARDSILENCE_CALM", &effect::Look::calm}),
+                         [](testing::TestParamInfo<Variable> const& variable) { return variable.param.name; });
 
 } // namespace

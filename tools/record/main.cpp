@@ -146,7 +146,7 @@ int main(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     sf::err().rdbuf(nullptr); // its messages about files would repeat ours
-    effect::look.standard_wire = options.wire;
+    effect::look = {.standard_wire = options.wire, .calm = options.calm};
     // The caller's paths are relative to the caller's folder, not to that of the data.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();

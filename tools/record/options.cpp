@@ -57,6 +57,7 @@ void add_options(CLI::App& app, RecordOptions& options) {
         ->trigger_on_parse();
     app.add_flag_callback("--no-wire", [&] { options.wire = false; }, "Leave it to the driver, as the program does")
         ->trigger_on_parse();
+    app.add_flag("--calm", options.calm, "The calm mode: held cuts instead of strobes");
     app.add_flag("--list", options.list, "List the scenes, their first beats and lengths");
     // clang-format on
 }

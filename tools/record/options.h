@@ -14,7 +14,8 @@ struct RecordOptions {
     unsigned int height = 768;
     unsigned int samples = 4;
     bool frame_after = false;
-    bool wire = true; ///< the pulse wire by the OpenGL standard, see effect::PulseWire
+    bool wire = true;  ///< the pulse wire by the OpenGL standard, see effect::PulseWire
+    bool calm = false; ///< held cuts instead of strobes, see effect::Blinking
     std::string folder;
     std::string sheet;
     unsigned int columns = 5;

@@ -43,17 +43,18 @@ TEST(RecordOptions, HaveDefaults) {
     EXPECT_EQ(options.columns, 5u);
     EXPECT_EQ(options.sheet + options.scene, "");
     EXPECT_TRUE(options.wire);
-    EXPECT_FALSE(options.frame_after || options.list);
+    EXPECT_FALSE(options.frame_after || options.list || options.calm);
 }
 
 TEST(RecordOptions, AreAllRead) {
     Outcome const outcome = read({"--beats", "1,2", "--sheet", "s.png", "--scene", "wire", "--size", "64x48",
-                                  "--samples", "0", "--columns", "3", "--no-wire", "--frames"});
+                                  "--samples", "0", "--columns", "3", "--no-wire", "--calm", "--frames"});
     EXPECT_FALSE(outcome.status.has_value());
     RecordOptions const& options = outcome.options;
     EXPECT_THAT(options.beats, ElementsAre(1000, 2000));
     EXPECT_EQ(options.sheet, "s.png");
     EXPECT_EQ(options.scene, "wire");
+    EXPECT_TRUE(options.calm);
     EXPECT_EQ(options.width, 64u);
     EXPECT_EQ(options.height, 48u);
     EXPECT_EQ(options.samples, 0u);

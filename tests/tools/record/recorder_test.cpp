@@ -97,9 +97,11 @@ TEST_F(Recorder, SheetHoldsThePicturesInTheOrderAskedFor) {
 }
 
 TEST_F(Recorder, DrawsThePulseWireByDefault) {
-    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out with", {"HARDSILENCE_WIRE=0"}).status, 0);
-    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out without --no-wire", {"HARDSILENCE_WIRE=1"}).status, 0);
-    EXPECT_NE(read_all(In("with/beat_184.500.png")), read_all(In("without/beat_184.500.png")));
+    ASSERT_EQ(Record("--scene tunnelgate --beats 0.5 --size 256x192 --out with", {"HARDSILENCE_WIRE=0"}).status, 0);
+    ASSERT_EQ(
+        Record("--scene tunnelgate --beats 0.5 --size 256x192 --out without --no-wire", {"HARDSILENCE_WIRE=1"}).status,
+        0);
+    EXPECT_NE(read_all(In("with/tunnelgate_000.500.png")), read_all(In("without/tunnelgate_000.500.png")));
 }
 
 TEST_F(Recorder, TakesTheMomentsOfEveryScene) {
@@ -115,6 +117,16 @@ TEST_F(Recorder, TakesTheMomentsOfEveryScene) {
             EXPECT_TRUE(fs::exists(In(file))) << file;
         }
     }
+}
+
+TEST_F(Recorder, DrawsTheCalmShowWhenToldTo) {
+    ASSERT_EQ(Record("--scene swapper --beats 6 --size 64x48 --out full", {"HARDSILENCE_CALM=1"}).status, 0);
+    ASSERT_EQ(Record("--scene swapper --beats 6 --size 64x48 --out calm --calm").status, 0);
+    sf::Image full, calm;
+    ASSERT_TRUE(full.loadFromFile(In("full/swapper_006.000.png")));
+    ASSERT_TRUE(calm.loadFromFile(In("calm/swapper_006.000.png")));
+    EXPECT_EQ(full.getPixel(0, 0), sf::Color::White); // two beats after a strobe
+    EXPECT_EQ(calm.getPixel(0, 0), sf::Color::Black);
 }
 
 TEST_F(Recorder, ListsTheScenes) {
