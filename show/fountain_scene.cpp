@@ -21,7 +21,7 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto camera = std::make_shared<effect::Camera>();
     camera->SetPos({0, 0, 1200});
 
-    auto const blinkers = add_four_blinkers(*scene, length, 4, beat);
+    auto const blinkers = add_four_blinkers(*scene, length, beat);
 
     // One glide of two way points: it travels in the first half of the scene and settles in the second.
     auto route = std::make_shared<Route>();

@@ -44,7 +44,7 @@ std::shared_ptr<kore::Scene> greets_scene(float const& beat) {
     camera->SetPos({-0.2f, -33.8f, 0.1f});
     camera->SetLookPos({-0.4f, 24.8f, -1.9f});
 
-    auto const blinkers = add_four_blinkers(*scene, length, 1, beat);
+    auto const blinkers = add_four_blinkers(*scene, length, beat);
 
     auto background = make_background(white, beat);
     auto fountain = std::make_shared<effect::TorusFountain>(models);

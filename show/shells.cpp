@@ -10,8 +10,8 @@ namespace {
 
 constexpr float offsets[] = {0, 0.2f, 0.4f, 0.6f}; // beats
 
-// In the calm show the outermost shell alone answers, with a cut on the beat. What is near the camera stays white:
-// black rings and rods that pass before white flash without any strobe.
+// In the calm show the outermost shell alone answers, with a cut held for one beat. What is near the camera stays
+// white: black rings and rods that pass before white flash without any strobe.
 constexpr std::size_t calm_blinker = 3;
 
 struct Shell {
@@ -34,7 +34,7 @@ constexpr Shell shells[] = {
 
 } // namespace
 
-FourBlinkers add_four_blinkers(kore::Scene& scene, int length, int calm_hold, float beat) {
+FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat) {
     FourBlinkers blinkers;
     for (std::size_t b = 0; b < blinkers.size(); ++b) {
         blinkers[b] = std::make_shared<effect::Blinker>();
@@ -44,8 +44,7 @@ FourBlinkers add_four_blinkers(kore::Scene& scene, int length, int calm_hold, fl
                 add_blink(*blinkers[b], at + offsets[b] * beat, Blink::Strobe, 4, beat);
             } else if (b == calm_blinker) {
                 add_blink(*blinkers[b], at, Blink::Strobe, 4, beat);
-                if (calm_hold < 4)
-                    add_blink(*blinkers[b], at + static_cast<float>(calm_hold) * beat, Blink::Invert, 0, beat);
+                add_blink(*blinkers[b], at + beat, Blink::Invert, 0, beat);
             }
         }
     }

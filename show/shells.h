@@ -10,11 +10,11 @@
 using FourBlinkers = std::array<std::shared_ptr<effect::Blinker>, 4>;
 
 /// Makes four blinkers, each with a strobe every four beats, a fifth of a beat after the previous one, and puts them on
-/// the timeline from the first beat. In the calm show only the last one sends strobes, on the beat.
-/// @param length     of the scene, beats
-/// @param calm_hold  how long a cut is held in the calm show, beats; 4 for until the next strobe
-/// @param beat       length of one beat, seconds
-FourBlinkers add_four_blinkers(kore::Scene& scene, int length, int calm_hold, float beat);
+/// the timeline from the first beat. In the calm show only the last one sends anything: a strobe on the beat, and the end
+/// of its cut on the next.
+/// @param length  of the scene, beats
+/// @param beat    length of one beat, seconds
+FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat);
 
 /// Puts the shells on the timeline, one inside the other, each turning at its own rate and flashing with its own
 /// blinker: the second, third and fourth.
