@@ -203,10 +203,13 @@ void run_show(sf::Window& window) {
 
 int main(int argc, char** argv) {
     if (auto const status = read_command_line(argc, argv)) return *status;
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
+        std::cerr << missing << std::endl;
+        return 1;
+    }
     if (!window_possible()) return 1;
     catch_stop_signals();
     end_quietly_when_display_is_lost();
-    enter_data_folder(HARDSILENCE_SHARE);
     effect::look = look_from_environment();
 
     sf::ContextSettings const settings(video_depth, video_stencil, video_fsaa_level);

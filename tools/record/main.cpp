@@ -140,6 +140,6 @@ int main(int argc, char** argv) {
     // The caller's paths are meant from where he stands, not from where the data lies.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
-    if (!enter_data_folder(HARDSILENCE_SHARE)) return complain("cannot find the folder data/");
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
     return record(options);
 }
