@@ -37,6 +37,9 @@ WEAK void glMatrixMode(GLenum) {}
 WEAK void glShadeModel(GLenum) {}
 WEAK void glLineWidth(GLfloat) {}
 WEAK void glViewport(GLint, GLint, GLsizei, GLsizei) {}
+WEAK void glScissor(GLint, GLint, GLsizei, GLsizei) {}
+WEAK void glPushAttrib(GLbitfield) {}
+WEAK void glPopAttrib() {}
 WEAK void glFrustum(GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble) {}
 WEAK void glBindTexture(GLenum, GLuint) {}
 WEAK void glTexParameterf(GLenum, GLenum, GLfloat) {}

@@ -80,11 +80,20 @@ TEST(Window, AServerWithoutFullScreenModesGetsAWindow) {
     EXPECT_EQ(show.process.Wait(2s), 0);
 }
 
-TEST(Window, AFullScreenModeThatIsNotOfferedStillFillsTheScreen) {
+TEST(Window, AFullScreenModeThatIsNotOfferedGivesAWindow) {
     Show show({"-width", "320", "-nofsaa", "-mute"});
     ASSERT_TRUE(show.open) << show.process.Error();
-    EXPECT_EQ(show.screen.WindowWidth(), 800u);
-    auto const picture = show.screen.Look();
+    EXPECT_EQ(show.screen.WindowWidth(), 320u);
+    EXPECT_THAT(show.process.Error(),
+                HasSubstr("This screen cannot be switched to 320x240; the show plays in a window.\n"));
+    show.screen.Press("Escape");
+    EXPECT_EQ(show.process.Wait(2s), 0);
+}
+
+TEST(Window, AFullScreenModeThatIsOfferedFillsTheScreen) {
+    Show show({"-width", "800", "-nofsaa", "-mute"});
+    ASSERT_TRUE(show.open) << show.process.Error();
+    EXPECT_EQ(show.screen.WindowPlace(), (Area{0, 0, 800, 600}));
     // White up to the corners, at least between two strobes.
     bool filled = false;
     for (int i = 0; i < 20 && !filled; ++i) {

@@ -1,0 +1,62 @@
+#include "runtime/opening.h"
+
+#include "runtime/commandline.h"
+#include "runtime/display.h"
+
+#include <SFML/Window/Window.hpp>
+#include <iostream>
+
+namespace {
+
+constexpr int largest_window = 32767; // pixels: what the X protocol can say
+
+} // namespace
+
+bool window_possible() {
+    if (resolution_x < 1 || resolution_y < 1 || resolution_x > largest_window) {
+        std::cerr << "Cannot open a window of " << resolution_x << "x" << resolution_y << " pixels." << std::endl;
+        return false;
+    }
+    if (!display_available()) {
+        std::cerr << "Cannot open the display. Is DISPLAY set, and an X server running?" << std::endl;
+        return false;
+    }
+    if (!display_has_opengl()) {
+        std::cerr << "This display offers no OpenGL: its X server lacks the GLX extension." << std::endl;
+        return false;
+    }
+    return true;
+}
+
+std::optional<Area> choose_monitor(Settings const& settings, std::vector<Monitor> const& monitors) {
+    Monitor const* const monitor = find_monitor(monitors, settings.monitor);
+    if (monitor) return monitor->area;
+    std::cerr << "There is no monitor " << settings.monitor << "; the last one is " << monitors.size() << '.'
+              << std::endl;
+    return std::nullopt;
+}
+
+void see_to_full_screen(Settings const& settings) {
+    if (video_fullscreen != sf::Style::Fullscreen) return;
+    if (!has_monitors() || sf::VideoMode::getFullscreenModes().empty()) {
+        std::cerr << "This display offers no full-screen modes; the show plays in a window." << std::endl;
+        video_fullscreen = sf::Style::Close;
+    } else if (!settings.desktop && !mode_can_be_set(resolution_x, resolution_y)) {
+        std::cerr << "This screen cannot be switched to " << resolution_x << 'x' << resolution_y
+                  << "; the show plays in a window." << std::endl;
+        video_fullscreen = sf::Style::Close;
+    }
+}
+
+std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& settings, Area const& monitor) {
+    sf::ContextSettings const context(video_depth, video_stencil, video_fsaa_level);
+    auto const style = settings.desktop ? sf::Uint32{sf::Style::Default} : static_cast<sf::Uint32>(video_fullscreen);
+    sf::VideoMode const mode(static_cast<unsigned int>(resolution_x), static_cast<unsigned int>(resolution_y),
+                             display_depth());
+    window.create(mode, window_title, style, context);
+    if (!settings.desktop) return std::nullopt;
+    std::optional<DesktopWindow> desktop(std::in_place, window, monitor, width_given ? resolution_x : 0,
+                                         settings.stretch);
+    if (video_fullscreen == sf::Style::Fullscreen) desktop->SetFullScreen(true);
+    return desktop;
+}
