@@ -2,6 +2,7 @@
 
 #include "kore/music-sfml.h"
 #include "kore/report.h"
+#include "runtime/awakescreen.h"
 #include "runtime/datafolder.h"
 #include "runtime/display.h"
 #include "runtime/environment.h"
@@ -219,6 +220,8 @@ int main(int argc, char** argv) {
 
     sf::Window window; // not a render window: that one makes OpenGL calls of its own in every frame
     auto desktop = open_window(window, *settings, *monitor);
+    std::optional<AwakeScreen> awake;
+    if (desktop) awake.emplace();
     init_gl();
     window.setVerticalSyncEnabled(vsync);
     window.setFramerateLimit(frame_limit());

@@ -3,7 +3,7 @@
 /// What is the viewer's choice besides the command line. With the defaults the program is the exact one.
 struct Settings {
     /// The window behaves as desktops have it: full screen leaves the video mode alone, a window opens whole, in the
-    /// middle and can be resized; see DesktopWindow.
+    /// middle and can be resized; see DesktopWindow. The screen stays awake.
     bool desktop = false;
     bool stretch = false; ///< in a desktop window: the picture fills it, instead of staying 4:3
     int monitor = 0;      ///< that a desktop window opens on, counted from 1, left to right; 0 for the primary one

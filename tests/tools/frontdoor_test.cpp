@@ -50,7 +50,7 @@ env | grep ^HARDSILENCE_ | sort
 constexpr char const* note = "#!/bin/bash\necho \"$(basename \"$0\") $*\" >>\"$LOG\"\n";
 constexpr char const* warning =
     "Warning: this show strobes heavily; not for anyone with photosensitive epilepsy. --calm has no strobes.\n";
-constexpr char const* building = "Building the show; this takes a minute the first time.\n";
+constexpr char const* building = "Building the show; this takes a while the first time.\n";
 
 class FrontDoor : public testing::Test {
 protected:
@@ -268,6 +268,7 @@ TEST_F(FrontDoor, EndsWithItsBuildWhenItIsStopped) {
         EXPECT_TRUE(runs(child));
         process->Signal(number);
         EXPECT_EQ(process->Wait(2s), expected);
+        EXPECT_EQ(process->Error(), "");
         for (int i = 0; i < 100 && runs(child); ++i) std::this_thread::sleep_for(10ms);
         EXPECT_FALSE(runs(child));
         fs::remove(At("pid"));

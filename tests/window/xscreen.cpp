@@ -2,6 +2,8 @@
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/Xfixes.h>
+#include <X11/extensions/scrnsaver.h>
 #include <csignal>
 #include <cstdlib>
 #include <stdexcept>
@@ -217,6 +219,27 @@ XScreen::Picture XScreen::Read(unsigned long drawable, int width, int height) co
     }
     XDestroyImage(image);
     return picture;
+}
+
+void XScreen::SetSaver(int seconds) const {
+    XSetScreenSaver(display, seconds, 0, DontPreferBlanking, DefaultExposures);
+    XSync(display, False);
+}
+
+bool XScreen::Saved() const {
+    XScreenSaverInfo info;
+    return XScreenSaverQueryInfo(display, DefaultRootWindow(display), &info) && info.state == ScreenSaverOn;
+}
+
+bool XScreen::PointerIsSeen() const {
+    int event = 0;
+    int error = 0;
+    if (!XFixesQueryExtension(display, &event, &error)) throw std::runtime_error("no XFixes");
+    XFixesCursorImage* const image = XFixesGetCursorImage(display);
+    bool seen = false;
+    for (int i = 0; i < image->width * image->height; ++i) seen = seen || image->pixels[i] >> 24U != 0;
+    XFree(image);
+    return seen;
 }
 
 void XScreen::Kill() {

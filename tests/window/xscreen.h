@@ -73,6 +73,15 @@ public:
     /// The window's place on the screen, without its frame.
     Area WindowPlace() const;
 
+    /// Sets after how long without input the screen saver comes.
+    void SetSaver(int seconds) const;
+
+    /// Whether the screen saver has come.
+    bool Saved() const;
+
+    /// Whether the pointer is shown as one that can be seen.
+    bool PointerIsSeen() const;
+
     /// Ends the server, as when the screen is lost.
     void Kill();
 
