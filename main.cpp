@@ -10,10 +10,10 @@
 #include "runtime/opening.h"
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
+#include "runtime/timing.h"
 #include "show/show.h"
 
 #include <GL/gl.h>
-#include <SFML/System/Clock.hpp>
 #include <iostream>
 #include <optional>
 #include <utility>
@@ -168,34 +168,40 @@ bool show_over(int beat_count, kore::Demo const& demo) {
     return beat_count > last_beat || quit || stop_requested() || demo.GetFinished();
 }
 
-void run_show(sf::Window& window, DesktopWindow* desktop) {
-    sf::Clock clock;
-    std::shared_ptr<kore::Music> music = std::make_shared<kore::MusicSFML>();
+void run_show(sf::Window& window, Settings const& settings, DesktopWindow* desktop) {
+    auto const player = std::make_shared<kore::MusicSFML>();
+    std::shared_ptr<kore::Music> music = player;
     music_init(music);
     kore::Demo demo(beat_seconds);
     init_demo(demo, music, beat_seconds);
     Stepper stepper(demo, beat_seconds);
     Controls controls{demo, music, {}, {}, desktop};
     float fps = 0;
+    Timing timing(settings, *player);
     music_play(music, true);
-    clock.restart();
+    timing.Begin();
 
     while (window.isOpen()) {
-        controls.now = clock.getElapsedTime().asSeconds();
+        controls.now = timing.Read();
         sf::Event event;
         while (!controls.close && window.pollEvent(event)) handle_event(controls, event);
         if (controls.close) window.close();
         controls.view.Step();
-        stepper.Update(controls.pauses.ShowTime(controls.now), fps);
+        float const show_time = controls.pauses.ShowTime(controls.now);
+        timing.Listen(show_time, controls.pauses.Paused());
+        stepper.Update(timing.PictureTime(show_time), fps);
         if (window.setActive(true)) { // a closed window has no context
             stepper.Draw(controls.view);
             if (desktop) desktop->Frame();
         }
         frame_counter(controls.now, fps);
+        timing.Wait();
         window.display();
+        timing.Shown();
         if (show_over(stepper.State().beat_count, demo)) break;
     }
     music->Pause();
+    if (fps_counter && settings.pace) timing.Report();
 }
 
 int main(int argc, char** argv) {
@@ -224,7 +230,7 @@ int main(int argc, char** argv) {
     if (desktop) awake.emplace();
     init_gl();
     window.setVerticalSyncEnabled(vsync);
-    window.setFramerateLimit(frame_limit());
-    run_show(window, desktop ? &*desktop : nullptr);
+    window.setFramerateLimit(settings->pace ? 0 : frame_limit());
+    run_show(window, *settings, desktop ? &*desktop : nullptr);
     return 0;
 }

@@ -7,6 +7,7 @@
 #include "runtime/commandline.h"
 #include "runtime/debugcamera.h"
 #include "runtime/desktopwindow.h"
+#include "runtime/settings.h"
 
 #include <SFML/Window/Event.hpp>
 #include <SFML/Window/Window.hpp>
@@ -51,4 +52,4 @@ bool show_over(int beat_count, kore::Demo const& demo);
 
 /// Plays the show in an open window until it ends.
 /// @param desktop  how the window behaves on the desktop; nullptr for the exact one
-void run_show(sf::Window& window, DesktopWindow* desktop);
+void run_show(sf::Window& window, Settings const& settings, DesktopWindow* desktop);

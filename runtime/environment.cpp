@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int most_monitors = 99;
+constexpr int longest_offset = 2000; // ms
 
 std::string_view value_of(char const* variable) {
     char const* const value = std::getenv(variable);
@@ -48,6 +49,9 @@ std::optional<Settings> settings_from_environment() {
     settings.desktop = is_on("HARDSILENCE_DESKTOP");
     settings.stretch = is_on("HARDSILENCE_STRETCH");
     settings.list_monitors = value_of("HARDSILENCE_MONITOR") == "list";
+    settings.pace = is_on("HARDSILENCE_PACE");
+    settings.sound_clock = is_on("HARDSILENCE_SOUND");
     if (!settings.list_monitors && !read_number("HARDSILENCE_MONITOR", 1, most_monitors, settings.monitor)) return {};
+    if (!read_number("HARDSILENCE_OFFSET", -longest_offset, longest_offset, settings.offset)) return {};
     return settings;
 }

@@ -12,6 +12,9 @@
 ///     HARDSILENCE_DESKTOP   switch   Settings::desktop
 ///     HARDSILENCE_STRETCH   switch   Settings::stretch
 ///     HARDSILENCE_MONITOR   1 to 99  Settings::monitor; "list" for Settings::list_monitors
+///     HARDSILENCE_PACE      switch   Settings::pace
+///     HARDSILENCE_SOUND     switch   Settings::sound_clock
+///     HARDSILENCE_OFFSET    -2000 to 2000, Settings::offset
 effect::Look look_from_environment();
 
 /// @return nothing, after a line on standard error, where a number is none or out of its range

@@ -8,4 +8,10 @@ struct Settings {
     bool stretch = false; ///< in a desktop window: the picture fills it, instead of staying 4:3
     int monitor = 0;      ///< that a desktop window opens on, counted from 1, left to right; 0 for the primary one
     bool list_monitors = false;
+
+    /// Frames are held to 60 a second by deadlines where the screen does not hold them; and to the command line's
+    /// limit, which is a sleep otherwise.
+    bool pace = false;
+    bool sound_clock = false; ///< the show's time follows the sound
+    int offset = 0;           ///< milliseconds that the picture is later than the sound
 };

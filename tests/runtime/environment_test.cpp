@@ -12,7 +12,7 @@ protected:
     ~SettingsFrom() override { Clear(); }
 
     static void Clear() {
-        for (char const* name : {"DESKTOP", "STRETCH", "MONITOR"}) {
+        for (char const* name : {"DESKTOP", "STRETCH", "MONITOR", "PACE", "SOUND", "OFFSET"}) {
             unsetenv((std::string("HARDSILENCE_") + name).c_str());
         }
     }
@@ -31,14 +31,20 @@ TEST_F(SettingsFrom, AnEmptyEnvironmentAreTheExactPrograms) {
     EXPECT_FALSE(settings->desktop);
     EXPECT_FALSE(settings->stretch);
     EXPECT_FALSE(settings->list_monitors);
+    EXPECT_FALSE(settings->pace);
+    EXPECT_FALSE(settings->sound_clock);
     EXPECT_EQ(settings->monitor, 0);
+    EXPECT_EQ(settings->offset, 0);
 }
 
 TEST_F(SettingsFrom, SwitchesAreOnUnlessTheySayNo) {
     struct {
         char const* variable;
         bool Settings::*setting;
-    } const rows[] = {{"HARDSILENCE_DESKTOP", &Settings::desktop}, {"HARDSILENCE_STRETCH", &Settings::stretch}};
+    } const rows[] = {{"HARDSILENCE_DESKTOP", &Settings::desktop},
+                      {"HARDSILENCE_STRETCH", &Settings::stretch},
+                      {"HARDSILENCE_PACE", &Settings::pace},
+                      {"HARDSILENCE_SOUND", &Settings::sound_clock}};
     for (auto const& [variable, setting] : rows) {
         SCOPED_TRACE(variable);
         for (auto const& [value, on] : {std::pair{"", false}, {"0", false}, {"1", true}, {"yes", true}}) {
@@ -57,7 +63,8 @@ struct NumberRow {
     int most;
 };
 
-constexpr NumberRow numbers[] = {{"HARDSILENCE_MONITOR", &Settings::monitor, 1, 99}};
+constexpr NumberRow numbers[] = {{"HARDSILENCE_MONITOR", &Settings::monitor, 1, 99},
+                                 {"HARDSILENCE_OFFSET", &Settings::offset, -2000, 2000}};
 
 TEST_F(SettingsFrom, NumbersAreReadWithinTheirRange) {
     for (auto const& [variable, setting, least, most] : numbers) {

@@ -87,7 +87,7 @@ protected:
                                         "DISPLAY=:none",
                                         "WAYLAND_DISPLAY",
                                         "XDG_CACHE_HOME"};
-        for (char const* name : {"WIRE", "DESKTOP", "STRETCH", "MONITOR", "CALM"}) {
+        for (char const* name : {"WIRE", "DESKTOP", "STRETCH", "MONITOR", "CALM", "PACE", "SOUND", "OFFSET"}) {
             all.push_back(std::string("HARDSILENCE_") + name);
         }
         all.insert(all.end(), environment.begin(), environment.end());
@@ -110,7 +110,7 @@ protected:
     std::string error;
 };
 
-constexpr char const* friendly = "HARDSILENCE_DESKTOP=1\nHARDSILENCE_WIRE=1\n";
+constexpr char const* friendly = "HARDSILENCE_DESKTOP=1\nHARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_WIRE=1\n";
 
 TEST_F(FrontDoor, WarnsBuildsAndPlaysWithTheFriendlySettings) {
     Run({});
@@ -145,17 +145,19 @@ TEST_F(FrontDoor, PassesTheProgramsOptionsOn) {
 }
 
 TEST_F(FrontDoor, TurnsItsOwnOptionsIntoSettings) {
-    Run({"--stretch", "--monitor", "2"});
-    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=1\nHARDSILENCE_MONITOR=2\n"
-                                 "HARDSILENCE_STRETCH=1\nHARDSILENCE_WIRE=1\n"));
+    Run({"--stretch", "--monitor", "2", "--offset", "-40"});
+    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=1\nHARDSILENCE_MONITOR=2\nHARDSILENCE_OFFSET=-40\n"
+                                 "HARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_STRETCH=1\n"
+                                 "HARDSILENCE_WIRE=1\n"));
     Run({"--monitor", "list"});
     EXPECT_THAT(output, HasSubstr("HARDSILENCE_MONITOR=list\n"));
     EXPECT_THAT(output, Not(HasSubstr("Warning")));
 }
 
 TEST_F(FrontDoor, LeavesAVariableThatIsSetAsItIs) {
-    Run({}, {"HARDSILENCE_WIRE=0", "HARDSILENCE_DESKTOP="});
-    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=\nHARDSILENCE_WIRE=0\n"));
+    Run({}, {"HARDSILENCE_WIRE=0", "HARDSILENCE_DESKTOP=", "HARDSILENCE_PACE=0", "HARDSILENCE_SOUND=no"});
+    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=\nHARDSILENCE_PACE=0\nHARDSILENCE_SOUND=no\n"
+                                 "HARDSILENCE_WIRE=0\n"));
 }
 
 TEST_F(FrontDoor, RefusesWhatItDoesNotKnowInOneLine) {
@@ -170,6 +172,10 @@ TEST_F(FrontDoor, RefusesWhatItDoesNotKnowInOneLine) {
         {{"--monitor", "1x"}, "--monitor: '1x' is not a number from 1 to 99, nor 'list'"},
         {{"--monitor", "100"}, "--monitor: '100' is not a number from 1 to 99, nor 'list'"},
         {{"--monitor", ""}, "--monitor: '' is not a number from 1 to 99, nor 'list'"},
+        {{"--offset"}, "--offset requires a value"},
+        {{"--offset", "abc"}, "--offset: 'abc' is not a number from -2000 to 2000"},
+        {{"--offset", "2001"}, "--offset: '2001' is not a number from -2000 to 2000"},
+        {{"--offset", "-"}, "--offset: '-' is not a number from -2000 to 2000"},
     };
     for (auto const& row : rows) {
         Run(row.given);
