@@ -227,7 +227,10 @@ int main(int argc, char** argv) {
     sf::Window window; // not a render window: that one makes OpenGL calls of its own in every frame
     auto desktop = open_window(window, *settings, *monitor);
     std::optional<AwakeScreen> awake;
-    if (desktop) awake.emplace();
+    if (desktop) {
+        awake.emplace();
+        tell_of_slow_drawing();
+    }
     init_gl();
     window.setVerticalSyncEnabled(vsync);
     window.setFramerateLimit(settings->pace ? 0 : frame_limit());

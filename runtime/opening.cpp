@@ -3,8 +3,10 @@
 #include "runtime/commandline.h"
 #include "runtime/display.h"
 
+#include <GL/gl.h>
 #include <SFML/Window/Window.hpp>
 #include <iostream>
+#include <string_view>
 
 namespace {
 
@@ -59,4 +61,15 @@ std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& set
                                          settings.stretch);
     if (video_fullscreen == sf::Style::Fullscreen) desktop->SetFullScreen(true);
     return desktop;
+}
+
+void tell_of_slow_drawing() {
+    if (video_fsaa_level == 0) return;
+    auto const* const renderer = reinterpret_cast<char const*>(glGetString(GL_RENDERER));
+    std::string_view const name = renderer ? renderer : "";
+    for (std::string_view const software : {"llvmpipe", "softpipe", "swrast", "SWR"}) {
+        if (name.find(software) == std::string_view::npos) continue;
+        std::cerr << "No graphics card draws here; -nofsaa doubles the frame rate." << std::endl;
+        return;
+    }
 }

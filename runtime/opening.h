@@ -21,3 +21,7 @@ void see_to_full_screen(Settings const& settings);
 /// @param monitor  that a desktop window opens on, pixels of the desktop
 /// @return how it behaves on the desktop, where that is asked for
 std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& settings, Area const& monitor);
+
+/// Says in a line on standard error, where this computer draws without a graphics card, how to have it draw faster. To
+/// be called with the OpenGL context.
+void tell_of_slow_drawing();

@@ -22,6 +22,10 @@ void sleep_for(double seconds) { sf::sleep(sf::microseconds(static_cast<sf::Int6
 
 } // namespace
 
+float picture_time(float show_time, int offset) {
+    return std::max(0.0f, show_time - static_cast<float>(offset) / 1000);
+}
+
 Timing::Timing(Settings const& settings, kore::MusicSFML const& music)
     : my_settings(settings), my_music(music), pacer(pacer_for(settings)) {}
 
@@ -41,10 +45,6 @@ void Timing::Listen(float show_time, bool paused) {
     if (!my_settings.sound_clock) return;
     if (paused || !my_music.Playing()) return sound.Forget();
     sound.Listen(static_cast<double>(show_time) - sound.Correction(), static_cast<double>(my_music.Position()));
-}
-
-float Timing::PictureTime(float show_time) const {
-    return std::max(0.0f, show_time - static_cast<float>(my_settings.offset) / 1000);
 }
 
 void Timing::Wait() {

@@ -8,6 +8,11 @@
 
 #include <SFML/System/Clock.hpp>
 
+/// @param show_time  seconds
+/// @param offset     milliseconds that the picture is later than the sound
+/// @return the time that the picture is drawn for, seconds; not below 0
+float picture_time(float show_time, int offset);
+
 /// The clock of a show that plays, its frames' pace and its tie to the sound, as the settings have them. With the
 /// defaults it is the plain clock.
 class Timing {
@@ -27,9 +32,8 @@ public:
     /// @param show_time  by the last reading, with pauses taken off, seconds
     void Listen(float show_time, bool paused);
 
-    /// @param show_time  seconds
-    /// @return the time that the picture is drawn for, seconds: moved by the offset, and not below 0
-    float PictureTime(float show_time) const;
+    /// The time that the picture is drawn for; see picture_time.
+    float PictureTime(float show_time) const { return picture_time(show_time, my_settings.offset); }
 
     /// Waits until the frame that is drawn is due.
     void Wait();

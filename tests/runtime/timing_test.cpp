@@ -3,6 +3,7 @@
 #include "runtime/frametimes.h"
 #include "runtime/pacer.h"
 #include "runtime/soundclock.h"
+#include "runtime/timing.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -138,6 +139,13 @@ TEST(SoundClock, HoldsItsCorrectionWhereTheSoundHangsOrIsForgottenOrHasEnded) {
     EXPECT_EQ(clock.Correction(), held);
     clock.Forget();
     EXPECT_EQ(clock.Correction(), held);
+}
+
+TEST(PictureTime, IsTheShowsMovedByTheOffsetAndNotBelowZero) {
+    for (float const time : {0.0f, 0.1f, 174.5f}) EXPECT_EQ(picture_time(time, 0), time);
+    EXPECT_FLOAT_EQ(picture_time(3, 250), 2.75f);
+    EXPECT_FLOAT_EQ(picture_time(3, -40), 3.04f);
+    EXPECT_EQ(picture_time(0.1f, 250), 0);
 }
 
 TEST(FrameTimes, TellThePercentilesOfAllFrames) {

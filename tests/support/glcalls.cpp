@@ -197,6 +197,7 @@ void glScissor(GLint x, GLint y, GLsizei width, GLsizei height) {
                                       static_cast<double>(height)});
     if (now) state_call("Scissor");
 }
+GLubyte const* glGetString(GLenum) { return nullptr; }
 void glPushAttrib(GLbitfield mask) {
     std::string what = mask & GL_COLOR_BUFFER_BIT ? "COLOR" : "";
     if (mask & GL_SCISSOR_BIT) what += what.empty() ? "SCISSOR" : "|SCISSOR";

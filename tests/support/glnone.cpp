@@ -47,6 +47,8 @@ WEAK void glTexParameteri(GLenum, GLenum, GLint) {}
 WEAK void glTexImage2D(GLenum, GLint, GLint, GLsizei, GLsizei, GLint, GLenum, GLenum, void const*) {}
 WEAK GLint gluBuild2DMipmaps(GLenum, GLint, GLsizei, GLsizei, GLenum, GLenum, void const*) { return 0; }
 
+WEAK GLubyte const* glGetString(GLenum) { return nullptr; }
+
 WEAK GLuint glGenLists(GLsizei range) {
     static GLuint next = 1;
     GLuint const first = next;
