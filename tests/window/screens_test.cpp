@@ -16,6 +16,26 @@ namespace {
 constexpr std::uint32_t white = 0xffffff;
 constexpr std::uint32_t black = 0;
 
+/// Whether a picture is white up to the corners of an area, and black in the rest of another.
+bool covers(XScreen::Picture const& picture, Area const& area, Area const& around) {
+    Area const all{0, 0, picture.width, picture.height};
+    if (shared(all, area) != area || shared(all, around) != around) return false;
+    int const right = area.x + area.width - 1;
+    int const bottom = area.y + area.height - 1;
+    for (int const x : {area.x, right}) {
+        for (int const y : {area.y, bottom}) {
+            if (picture.At(x, y) != white) return false;
+        }
+    }
+    for (int y = around.y; y < around.y + around.height; ++y) {
+        for (int x = around.x; x < around.x + around.width; ++x) {
+            bool const inside = x >= area.x && x <= right && y >= area.y && y <= bottom;
+            if (!inside && picture.At(x, y) != black) return false;
+        }
+    }
+    return true;
+}
+
 /// The show on a screen of this size, in the desktop's manner unless the environment says otherwise.
 class OnScreen {
 public:
@@ -23,6 +43,7 @@ public:
         if (managed) screen.Manage();
     }
     explicit OnScreen(XScreen::Switched const& start) : screen(start) {}
+    explicit OnScreen(XScreen::Wayland const& desktop) : screen(desktop), wayland(true) {}
 
     void Start(std::vector<std::string> options = {},
                std::vector<std::string> environment = {"HARDSILENCE_DESKTOP=1"}) {
@@ -37,7 +58,7 @@ public:
     /// two strobes of the first scene, and black all around.
     bool Covers(Area const& area, Area const& around) const {
         auto const until = std::chrono::steady_clock::now() + 6s;
-        while (!CoversNow(area, around)) {
+        while (!covers(wayland ? screen.Look() : screen.LookAtAll(), area, around)) {
             if (std::chrono::steady_clock::now() > until) return false;
             std::this_thread::sleep_for(20ms);
         }
@@ -52,27 +73,7 @@ public:
     XScreen screen;
     std::unique_ptr<Process> process;
     bool open = false;
-
-private:
-    bool CoversNow(Area const& area, Area const& around) const {
-        auto const picture = screen.LookAtAll();
-        Area const all{0, 0, picture.width, picture.height};
-        if (shared(all, area) != area || shared(all, around) != around) return false;
-        int const right = area.x + area.width - 1;
-        int const bottom = area.y + area.height - 1;
-        for (int const x : {area.x, right}) {
-            for (int const y : {area.y, bottom}) {
-                if (picture.At(x, y) != white) return false;
-            }
-        }
-        for (int y = around.y; y < around.y + around.height; ++y) {
-            for (int x = around.x; x < around.x + around.width; ++x) {
-                bool const inside = x >= area.x && x <= right && y >= area.y && y <= bottom;
-                if (!inside && picture.At(x, y) != black) return false;
-            }
-        }
-        return true;
-    }
+    bool wayland = false; ///< only the window can be seen
 };
 
 struct ScreenRow {
@@ -267,6 +268,35 @@ TEST(FullScreen, LeavesTheVideoModeAlone) {
     ASSERT_TRUE(show.open) << show.process->Error();
     EXPECT_TRUE(show.Covers({160, 0, 960, 720}, {0, 0, 1280, 720}));
     EXPECT_EQ(show.End(), 0);
+}
+
+TEST(Wayland, HasFullScreenAsXHas) {
+    OnScreen show(XScreen::Wayland{1280, 720});
+    show.Start();
+    ASSERT_TRUE(show.open) << show.process->Error();
+    Area const all{0, 0, 1280, 720};
+    EXPECT_TRUE(show.Covers({160, 0, 960, 720}, all));
+    EXPECT_EQ(show.screen.WindowPlace(), all);
+    show.process->Signal(SIGTERM);
+    EXPECT_EQ(show.process->Wait(2s), 0);
+}
+
+TEST(Wayland, PlacesAWindowItselfAndLeavesItsSizeAlone) {
+    OnScreen show(XScreen::Wayland{1280, 720});
+    show.Start({"-w"});
+    ASSERT_TRUE(show.open) << show.process->Error();
+    EXPECT_TRUE(show.Covers({0, 0, 720, 540}, {0, 0, 720, 540}));
+    show.process->Signal(SIGTERM);
+    EXPECT_EQ(show.process->Wait(2s), 0);
+}
+
+TEST(Wayland, SwitchesToNoModeThatItLacks) {
+    OnScreen show(XScreen::Wayland{1280, 720});
+    show.Start({}, {});
+    ASSERT_TRUE(show.open) << show.process->Error();
+    EXPECT_THAT(show.process->Error(), HasSubstr("the show plays in a window.\n"));
+    show.process->Signal(SIGTERM);
+    EXPECT_EQ(show.process->Wait(2s), 0);
 }
 
 TEST(Servers, WithoutRandrGiveAWindow) {

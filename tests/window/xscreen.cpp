@@ -92,13 +92,33 @@ XScreen::XScreen(Switched const& start) {
     Randr({"--output", "DUMMY0", "--mode", start.mode});
 }
 
-void XScreen::Start(std::vector<std::string> command) {
+XScreen::XScreen(Wayland const& desktop) {
+    server = std::make_unique<Process>(std::vector<std::string>{"weston", "--backend=headless-backend.so",
+                                                                "--use-pixman", "--xwayland", "--idle-time=0",
+                                                                "--width=" + std::to_string(desktop.width),
+                                                                "--height=" + std::to_string(desktop.height)},
+                                       std::vector{"XDG_RUNTIME_DIR=" + folder.Path(""), std::string("DISPLAY")});
+    std::string const told = "xserver listening on display ";
+    if (!wait_for([&] { return server->Error().find('\n', server->Error().find(told)) != std::string::npos; })) {
+        throw std::runtime_error("weston does not start: " + server->Error());
+    }
+    std::string const log = server->Error();
+    auto const at = log.find(told) + told.size();
+    name = log.substr(at, log.find('\n', at) - at);
+    Connect();
+}
+
+void XScreen::Start(std::vector<std::string> const& command) {
     server = std::make_unique<Process>(command);
     // The server writes its number once it is ready.
     if (!wait_for([&] { return server->Output().find('\n') != std::string::npos; })) {
         throw std::runtime_error(command[0] + " does not start: " + server->Error());
     }
     name = ":" + server->Output().substr(0, server->Output().find('\n'));
+    Connect();
+}
+
+void XScreen::Connect() {
     display = XOpenDisplay(name.c_str());
     if (!display) throw std::runtime_error("cannot open display " + name);
     XSetErrorHandler(keep_calm);
@@ -130,6 +150,10 @@ void XScreen::Randr(std::vector<std::string> const& arguments) const {
 
 XScreen::~XScreen() {
     if (display) XCloseDisplay(display);
+    // Asked to end, a server takes its socket and its own clients with it.
+    if (!server || !server->Running()) return;
+    server->Signal(SIGTERM);
+    server->Wait(std::chrono::seconds(2));
 }
 
 bool XScreen::FindShow() {

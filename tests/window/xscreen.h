@@ -25,6 +25,13 @@ public:
         std::string mode; ///< that the desktop has, for example "1280x720"; larger ones are offered too
     };
     explicit XScreen(Switched const& start);
+
+    /// Xwayland under a Wayland compositor without a screen.
+    struct Wayland {
+        int width; ///< pixels
+        int height;
+    };
+    explicit XScreen(Wayland const& desktop);
     XScreen(XScreen const&) = delete;
     XScreen& operator=(XScreen const&) = delete;
 
@@ -67,7 +74,7 @@ public:
     };
     Picture Look() const;
 
-    /// All of the screen.
+    /// All of the screen; under Wayland nothing, for no client sees others there.
     Picture LookAtAll() const;
 
     /// The window's place on the screen, without its frame.
@@ -86,7 +93,8 @@ public:
     void Kill();
 
 private:
-    void Start(std::vector<std::string> command);
+    void Start(std::vector<std::string> const& command);
+    void Connect();
     Picture Read(unsigned long drawable, int width, int height) const;
 
     support::TempFolder folder; ///< for what the server reads
