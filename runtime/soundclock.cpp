@@ -22,7 +22,11 @@ void SoundClock::Note(double time, double lead) {
     last = std::max(last, lead);
 }
 
-double SoundClock::FurthestLead() const { return *std::max_element(leads.begin(), leads.begin() + filled); }
+double SoundClock::Lead() const {
+    double sum = 0;
+    for (int i = 0; i < filled; ++i) sum += leads[static_cast<std::size_t>(i)];
+    return sum / filled;
+}
 
 void SoundClock::Listen(double time, double position) {
     constexpr double stuck = 0.2;    // seconds without a step: the sound hangs, or has ended
@@ -37,7 +41,8 @@ void SoundClock::Listen(double time, double position) {
     heard = true;
     Note(time, position - time);
     if (filled < spans_to_know) return;
-    double const drift = FurthestLead() - correction;
+    followed = true;
+    double const drift = Lead() - correction;
     greatest_drift = std::max(greatest_drift, std::abs(drift));
     correction += std::clamp(drift, -fastest * elapsed, fastest * elapsed);
 }

@@ -55,7 +55,7 @@ void Timing::Wait() {
 
 void Timing::Report() const {
     std::cout << window_title << ": " << frames.Report() << '\n';
-    if (my_settings.sound_clock) {
+    if (sound.Followed()) {
         std::cout << window_title << ": picture and sound at most " << std::fixed << std::setprecision(1)
                   << sound.GreatestDrift() * 1000 << " ms apart\n";
     }

@@ -122,7 +122,9 @@ TEST(SoundClock, LeadsAWrongStartBackAtATenthOfAPercent) {
 TEST(SoundClock, StartsWhereTheSoundIs) {
     SoundClock clock(0.023);
     EXPECT_EQ(clock.Correction(), 0.023);
+    EXPECT_FALSE(clock.Followed());
     EXPECT_LT(greatest_distance(clock, {1, 0.023}, 0), wanted);
+    EXPECT_TRUE(clock.Followed());
 }
 
 TEST(SoundClock, HoldsItsCorrectionWhereTheSoundHangsOrIsForgottenOrHasEnded) {
