@@ -2,6 +2,7 @@
 
 #include "runtime/commandline.h"
 #include "runtime/display.h"
+#include "runtime/windowmanager.h"
 
 #include <GL/gl.h>
 #include <SFML/Window/Window.hpp>
@@ -56,7 +57,13 @@ std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& set
     sf::VideoMode const mode(static_cast<unsigned int>(resolution_x), static_cast<unsigned int>(resolution_y),
                              display_depth());
     window.create(mode, window_title, style, context);
-    if (!settings.desktop) return std::nullopt;
+    if (!settings.desktop) {
+        if (video_fullscreen == sf::Style::Fullscreen || !windowmanager::can_fill_screen()) return std::nullopt;
+        // A window manager that is not told puts it anywhere, the lower third below the screen.
+        windowmanager::place_in_middle(window.getSystemHandle(), resolution_x, resolution_y,
+                                       windowmanager::work_area(monitor));
+        return std::nullopt;
+    }
     std::optional<DesktopWindow> desktop(std::in_place, window, monitor, width_given ? resolution_x : 0,
                                          settings.stretch);
     if (video_fullscreen == sf::Style::Fullscreen) desktop->SetFullScreen(true);

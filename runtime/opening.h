@@ -18,7 +18,7 @@ std::optional<Area> choose_monitor(Settings const& settings, std::vector<Monitor
 void see_to_full_screen(Settings const& settings);
 
 /// Opens the window that the command line and the settings ask for, with an OpenGL context.
-/// @param monitor  that a desktop window opens on, pixels of the desktop
+/// @param monitor  where a window stands in the middle, or fills the screen; pixels of the desktop
 /// @return how it behaves on the desktop, where that is asked for
 std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& settings, Area const& monitor);
 

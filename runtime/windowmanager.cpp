@@ -56,8 +56,8 @@ void fill_screen(unsigned long window, bool fill) {
 void place_in_middle(unsigned long window, int width, int height, Area const& area) {
     Frame const frame = frame_of(window);
     Area const outer = centred(width + frame.left + frame.right, height + frame.top + frame.bottom, area);
-    XMoveResizeWindow(display(), window, outer.x, outer.y, static_cast<unsigned int>(width),
-                      static_cast<unsigned int>(height));
+    XMoveResizeWindow(display(), window, std::max(area.x, outer.x), std::max(area.y, outer.y),
+                      static_cast<unsigned int>(width), static_cast<unsigned int>(height));
     XSync(display(), False);
 }
 

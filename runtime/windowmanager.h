@@ -12,7 +12,8 @@ bool can_fill_screen();
 /// Asks it to have a window fill the monitor that it lies on, or no longer.
 void fill_screen(unsigned long window, bool fill);
 
-/// Places a window, its frame included where there is one, in the middle of an area.
+/// Places a window, its frame included where there is one, in the middle of an area; one that is too large begins
+/// where the area does.
 /// @param width  of the picture, pixels
 void place_in_middle(unsigned long window, int width, int height, Area const& area);
 

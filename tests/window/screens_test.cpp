@@ -243,6 +243,15 @@ TEST(InAWindow, F11AndAltEnterFillTheScreenAndGiveItBack) {
     }
 }
 
+TEST(Exact, AWindowOpensWholeAndInTheMiddle) {
+    OnScreen show("1920x1080x24");
+    show.Start({"-w"}, {});
+    ASSERT_TRUE(show.open) << show.process->Error();
+    expect_whole_and_centred(show, 1920, 1080);
+    EXPECT_EQ(show.screen.WindowPlace().width, 1024);
+    EXPECT_EQ(show.End(), 0);
+}
+
 TEST(Exact, AModeThatDoesNotFitTheDesktopIsNotSwitchedTo) {
     OnScreen show(XScreen::Switched{"1280x720"});
     show.Start({}, {});
