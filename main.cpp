@@ -1,7 +1,7 @@
 #include "main.h"
 
 #include "kore/music-sfml.h"
-#include "kore/report.h"
+#include "kore/reportedplaces.h"
 #include "runtime/awakescreen.h"
 #include "runtime/datafolder.h"
 #include "runtime/display.h"
@@ -98,11 +98,9 @@ void key_released(Controls& controls, sf::Keyboard::Key key) {
 } // namespace
 
 void music_init(std::shared_ptr<kore::Music>& music) {
-    constexpr int report_line = 95;
     if (!music_enabled) return;
     if (music->LoadFromFile(music_file, music_frequency)) {
-        kore::report_error("main.cpp", report_line, "music_init",
-                           std::string("Couldn't open music from file ") + music_file);
+        kore::report_error(kore::places::music_init, std::string("Couldn't open music from file ") + music_file);
     }
 }
 

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "kore/demo.h"
-#include "runtime/beatclock.h"
-#include "runtime/frame.h"
+#include "runtime/playback.h"
 
 #include <cstddef>
-#include <functional>
 
 namespace bench {
 
@@ -14,32 +11,25 @@ class ShowRun {
 public:
     ShowRun();
 
-    /// Readies the next frame.
+    /// Looks at the next frame.
     /// @return false at the end of the show
     bool Next();
 
-    /// Updates and draws the frame that Next has readied.
-    void Frame() {
-        demo.UpdateLogic(state);
-        draw_frame(demo, view);
-    }
+    /// Updates and draws the frame that Next has looked at.
+    void Frame() { playback.Draw(); }
 
-    /// Scene of the frame, counted from 0.
+    /// Number and scene of that frame, both counted from 0; before Frame.
+    int FrameNumber() const { return playback.NextFrame(); }
     std::size_t Scene() const { return scene; }
-    int FrameNumber() const { return frame; }
+
     char const* SceneName(std::size_t i) { return demo.GetScenes()[i]->Name(); }
     std::size_t SceneCount() { return demo.GetScenes().size(); }
 
 private:
-    float beat;
-    BeatClock beats;
-    kore::Demo demo;
-    kore::StateData state;
-    DebugCamera view;
-    int frame = -1;
+    kore::Demo demo{beat_seconds};
+    Playback playback{demo, 60};
     std::size_t scene = 0;
     int scene_end = 0; ///< beat
-    int total_beats = 0;
 };
 
 } // namespace bench

@@ -15,8 +15,8 @@ public:
     void Blink(BlinkerType const& type, int const& value) override;
 
     void SetColor(int color) final;
-    void drawColor() final { Issue(Swapped() ? myNegativeColor : myColor); }
-    void drawNegativeColor() final { Issue(Swapped() ? myColor : myNegativeColor); }
+    void drawColor() final { Issue(Grey()); }
+    void drawNegativeColor() final { Issue(NegativeGrey()); }
     void DrawSolid(bool draw) final { myDrawSolid = draw; }
     void DrawWireframe(bool draw) final { myDrawWireframe = draw; }
 
@@ -34,6 +34,12 @@ protected:
         CountDown();
     }
 
+    /// The grey levels that drawColor and drawNegativeColor issue at present.
+    float Grey() const { return static_cast<float>(Swapped() ? myNegativeColor : myColor); }
+    float NegativeGrey() const { return static_cast<float>(Swapped() ? myColor : myNegativeColor); }
+
+    static void Issue(float grey) { glColor3f(grey, grey, grey); }
+
     int myColor = 1;         ///< grey level of the main colour
     int myNegativeColor = 0; ///< grey level that contrasts with it
     int myBlinkCount = 0;    ///< frames of strobe left
@@ -45,11 +51,6 @@ protected:
 private:
     /// Inversion and a strobe's flash cancel each other.
     bool Swapped() const { return myInverted != (myBlinkCount != 0 && myBlinkCount % 2 == 0); }
-
-    static void Issue(int level) {
-        auto const g = static_cast<float>(level);
-        glColor3f(g, g, g);
-    }
 };
 
 /// An effect that hears Wireframe, too.

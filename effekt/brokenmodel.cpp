@@ -1,6 +1,6 @@
 #include "effekt/brokenmodel.h"
 
-#include "kore/report.h"
+#include "kore/reportedplaces.h"
 
 #include <cassert>
 #include <cstdlib>
@@ -9,7 +9,6 @@ namespace effect {
 
 namespace {
 
-constexpr char const* unit = "effekt/brokenmodel.cpp";
 constexpr unsigned int scatter_seed = 215517;
 
 void draw_values(BrokenModel::Values& values, BrokenModel::ValueSetInterface& set) {
@@ -48,8 +47,7 @@ float BrokenModel::DefaultSet::s(float f) {
 BrokenModel::BrokenModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name) {
     models->LoadModelFull(file_name.empty() ? model_name + ".asc" : file_name);
     myModel = models->ModelByNameFull(model_name);
-    KORE_ASSERT_AT(myModel.get(), unit, 21,
-                   "effect::BrokenModel::BrokenModel(kore::AscModel_ptr, const string&, const string&)");
+    KORE_ASSERT_AT(myModel.get(), kore::places::broken_model);
     // Deliberate: the same scatter on every run, and for every broken model.
     std::srand(scatter_seed);
     DefaultSet defaults;
@@ -58,7 +56,7 @@ BrokenModel::BrokenModel(kore::AscModel_ptr models, std::string const& model_nam
 }
 
 void BrokenModel::ResetValues(ValueSetInterface* set) {
-    KORE_ASSERT_AT(set, unit, 190, "void effect::BrokenModel::ResetValues(effect::BrokenModel::ValueSetInterface*)");
+    KORE_ASSERT_AT(set, kore::places::broken_model_reset);
     for (Values& values : myValues) draw_values(values, *set);
 }
 
@@ -114,6 +112,8 @@ void BrokenModel::InternalDraw() {
     bool const moved = myState == Running || myDirection >= 1;
     bool const wireframe = myDrawWireframe || myKeepWireframe;
     kore::SingleAscModelFull const& model = *myModel;
+    float const grey = Grey();
+    float const negative_grey = NegativeGrey();
 
     glPushMatrix();
     glScalef(myScale.x, myScale.y, myScale.z);
@@ -121,11 +121,11 @@ void BrokenModel::InternalDraw() {
     for (unsigned int i = 0; i < model.count; ++i) {
         if (moved) MovePiece(myValues[i]);
         if (myDrawSolid) {
-            drawColor();
+            Issue(grey);
             glCallList(model.face_models[i]);
         }
         if (wireframe) {
-            drawNegativeColor();
+            Issue(negative_grey);
             glCallList(model.face_wireframes[i]);
         }
         if (moved) {

@@ -3,6 +3,7 @@
 #include "kore/report.h"
 
 #include <cmath>
+#include <cstddef>
 
 namespace kore {
 
@@ -47,12 +48,12 @@ void FftVisualizer::Prepare(char const* data) {
 }
 
 void FftVisualizer::Calculate() {
-    for (unsigned int half = 1, step = points / 2; half < points; half *= 2, step /= 2) {
-        for (unsigned int j = 0; j < half; ++j) {
+    for (std::size_t half = 1, step = points / 2; half < points; half *= 2, step /= 2) {
+        for (std::size_t j = 0; j < half; ++j) {
             float const c = cosine[j * step];
             float const s = sine[j * step];
-            for (unsigned int i = j; i < points; i += 2 * half) {
-                unsigned int const k = i + half;
+            for (std::size_t i = j; i < points; i += 2 * half) {
+                std::size_t const k = i + half;
                 float const tr = re[k] * c - im[k] * s;
                 float const ti = re[k] * s + im[k] * c;
                 re[k] = re[i] - tr;

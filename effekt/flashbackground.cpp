@@ -28,13 +28,14 @@ void FlashBackground::Draw() {
 }
 
 void FlashBackground::InternalDraw() {
+    float const grey = Grey();
     for (int i = 0; i < tiles; ++i) {
         for (int j = 0; j < tiles; ++j) {
             glPushMatrix();
             glTranslatef(static_cast<float>(j * 100 - 1450), static_cast<float>(i * 100 - 1450), 0);
             glRotatef(myLevel * 180, 0, 1, 0);
             glRotatef(myLevel * 360, 1, 0, 0);
-            drawColor();
+            Issue(grey);
             glCallList(myTile);
             glPopMatrix();
         }

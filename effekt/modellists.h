@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kore/ascmodel.h"
+#include "kore/reportedplaces.h"
 
 #include <string>
 
@@ -12,9 +13,8 @@ namespace effect {
 /// @param file_name    file to load; "" stands for the object name with ".asc"
 /// @param myModel      receives the solid list
 /// @param myWireframe  receives the wireframe list
-/// @param unit         source unit of the report
-/// @param function     function signature of the report
+/// @param checks       the places that the report names
 void find_or_load(kore::AscModel_ptr const& models, std::string const& model_name, std::string const& file_name,
-                  unsigned int& myModel, unsigned int& myWireframe, char const* unit, char const* function);
+                  unsigned int& myModel, unsigned int& myWireframe, kore::places::ModelChecks const& checks);
 
 } // namespace effect

@@ -1,15 +1,14 @@
 #include "effekt/modelswapper.h"
 
 #include "kore/ascmodel.h"
-#include "kore/report.h"
+#include "kore/reportedplaces.h"
 
 namespace effect {
 
 ModelSwapper::ModelSwapper(std::string const& name) {
     kore::AscModel m("data/");
     std::string const f = name + ".asc";
-    KORE_ASSERT_AT(m.LoadModel(f) >= 0, "effekt/modelswapper.cpp", 19,
-                   "effect::ModelSwapper::ModelSwapper(const string&)");
+    KORE_ASSERT_AT(m.LoadModel(f) >= 0, kore::places::model_swapper);
     m.ModelByName(name, myModel);
     m.WfByName(name, myWireframe);
 }

@@ -12,8 +12,7 @@ float at_most_one(float f) { return f >= 1 ? 1.0f : f; }
 } // namespace
 
 ShowModel::ShowModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name) {
-    find_or_load(models, model_name, file_name, myModel, myWireframe, "effekt/showmodel.cpp",
-                 "effect::ShowModel::ShowModel(kore::AscModel_ptr, const string&, const string&)");
+    find_or_load(models, model_name, file_name, myModel, myWireframe, kore::places::show_model);
 }
 
 void ShowModel::UpdateLogic(kore::StateData const& state) {

@@ -5,8 +5,7 @@
 namespace effect {
 
 SimpleModel::SimpleModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name) {
-    find_or_load(models, model_name, file_name, myModel, myWireframe, "effekt/simplemodel.cpp",
-                 "effect::SimpleModel::SimpleModel(kore::AscModel_ptr, const string&, const string&)");
+    find_or_load(models, model_name, file_name, myModel, myWireframe, kore::places::simple_model);
 }
 
 void SimpleModel::UpdateLogic(kore::StateData const&) { UpdateBlink(); }

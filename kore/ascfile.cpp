@@ -34,7 +34,8 @@ std::string_view object_name(std::string_view line) {
 // Not make_unique, which would fill all of it with zeros.
 AscFile::AscFile() : work(new Work) {}
 
-bool AscFile::Open(std::string const& path) {
+bool AscFile::Open(std::string const& path_) {
+    path = path_;
     at = 0;
     at_end = false;
     return read_file(path, file);
@@ -133,7 +134,7 @@ bool AscFile::ScanVertex(std::string_view line) {
 
 bool AscFile::AddVertex() {
     if (vertices_read == max_vertices) {
-        return Fail("Bad file format, more than " + std::to_string(max_vertices) + " vertices.");
+        return Refuse("more than " + std::to_string(max_vertices) + " vertices");
     }
     std::memcpy(work->vertices[vertices_read], vertex, sizeof vertex);
     ++vertices_read;
@@ -154,7 +155,7 @@ bool AscFile::ScanFace(std::string_view line) {
 }
 
 bool AscFile::AddFace() {
-    if (faces_read == max_faces) return Fail("Bad file format, more than " + std::to_string(max_faces) + " faces.");
+    if (faces_read == max_faces) return Refuse("more than " + std::to_string(max_faces) + " faces");
     for (int corner = 0; corner < 3; ++corner) {
         if (!IsVertex(face[corner])) return false;
         work->faces[faces_read][corner] = face[corner];
@@ -167,8 +168,7 @@ bool AscFile::AddFace() {
 /// Vertices that no object has had are at the origin.
 bool AscFile::MakeVertex(long long corner) {
     if (corner < 0 || corner >= max_vertices) {
-        return Fail("Bad file format, face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner) +
-                    ".");
+        return Refuse("face " + std::to_string(faces_read) + " has no vertex " + std::to_string(corner));
     }
     for (; vertices_known <= corner; ++vertices_known) {
         for (GLfloat& component : work->vertices[vertices_known]) component = 0;

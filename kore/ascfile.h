@@ -81,8 +81,11 @@ private:
     bool IsVertex(long long corner) { return (corner >= 0 && corner < vertices_known) || MakeVertex(corner); }
     bool MakeVertex(long long corner);
     bool Fail(std::string message);
+    /// Fails for a limit of ours. These reports name the file; the others are fixed texts.
+    bool Refuse(std::string const& what) { return Fail("Bad file format in " + path + ": " + what + "."); }
     char const* Terminated(std::string_view line);
 
+    std::string path;
     FileText file;
     std::size_t at = 0;
     bool at_end = false; ///< set by the read that finds no line feed

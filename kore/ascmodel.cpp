@@ -2,17 +2,13 @@
 
 #include "kore/ascfile.h"
 #include "kore/edgerule.h"
-#include "kore/report.h"
+#include "kore/reportedplaces.h"
 
 #include <algorithm>
 
 namespace kore {
 
 namespace {
-
-constexpr char const* unit = "kore/ascmodel.cpp";
-constexpr char const* gen_list_full = "int kore::AscModel::GenListFull(const string&, int, int, int, "
-                                      "const GLfloat (*)[3], const int (*)[3], const int (*)[3])";
 
 void segment(GLfloat const* from, GLfloat const* to) {
     glVertex3fv(from);
@@ -68,7 +64,8 @@ int AscModel::LoadModelFromFile(std::string const& path, bool full) {
         }
         int const faces = file.GetFaceCount();
         if (full && faces > static_cast<int>(SingleAscModelFull::max_faces)) {
-            KORE_ERROR("Bad file format, " + std::to_string(faces) + " faces are too many to be stored one by one.");
+            KORE_ERROR("Bad file format in " + path + ": " + std::to_string(faces) +
+                       " faces are too many to be stored one by one.");
             return -1;
         }
         auto const build = full ? &AscModel::GenListFull : &AscModel::GenList;
@@ -100,13 +97,13 @@ int AscModel::GenList(std::string const& name, int /*vertices*/, int tris_count,
 
 int AscModel::GenListFull(std::string const& name, int /*vertices*/, int tris_count, int lines_count,
                           GLfloat const (*verts)[3], int const (*faces)[3], int const (*)[3]) {
-    KORE_ASSERT_AT(tris_count == lines_count, unit, __LINE__, gen_list_full);
+    KORE_ASSERT_AT(tris_count == lines_count, places::gen_list_full(__LINE__));
     auto const count = static_cast<unsigned int>(tris_count);
     std::vector<unsigned int> models(count);
     std::vector<unsigned int> outlines(count);
 
     GLuint const model_start = glGenLists(tris_count);
-    KORE_ASSERT_AT(model_start, unit, __LINE__, gen_list_full);
+    KORE_ASSERT_AT(model_start, places::gen_list_full(__LINE__));
     for (unsigned int i = 0; i < count; ++i) {
         models[i] = model_start + i;
         glNewList(models[i], GL_COMPILE);
@@ -117,7 +114,7 @@ int AscModel::GenListFull(std::string const& name, int /*vertices*/, int tris_co
     }
 
     GLuint const wireframe_start = glGenLists(tris_count);
-    KORE_ASSERT_AT(wireframe_start, unit, __LINE__, gen_list_full);
+    KORE_ASSERT_AT(wireframe_start, places::gen_list_full(__LINE__));
     for (unsigned int i = 0; i < count; ++i) {
         outlines[i] = wireframe_start + i;
         glNewList(outlines[i], GL_COMPILE);

@@ -1,6 +1,6 @@
 #include "kore/music-sfml.h"
 
-#include "kore/report.h"
+#include "kore/reportedplaces.h"
 #include "kore/sounddevice.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>
@@ -9,14 +9,6 @@
 #include <utility>
 
 namespace kore {
-
-namespace {
-
-constexpr char const* unit = "kore/music-sfml.cpp";
-constexpr int open_failed_line = 36;
-constexpr int wrong_rate_line = 48;
-
-} // namespace
 
 MusicSFML::MusicSFML() {
     if (sound_device_available()) {
@@ -43,13 +35,13 @@ bool MusicSFML::Open(std::string const& file, unsigned int& rate) {
 bool MusicSFML::LoadFromFile(std::string const& file, int const& frequency) {
     unsigned int rate = 0;
     if (!Open(file, rate)) {
-        report_error(unit, open_failed_line, "LoadFromFile", "Failed to open music from file " + file);
+        report_error(places::music_not_opened, "Failed to open music from file " + file);
         return true;
     }
     if (rate != static_cast<unsigned int>(frequency)) {
-        report_error(unit, wrong_rate_line, "LoadFromFile",
-                     "Requested frequency (" + std::to_string(frequency) + ") differs from audio file frequency (" +
-                         std::to_string(rate) + ").");
+        report_error(places::music_at_another_rate, "Requested frequency (" + std::to_string(frequency) +
+                                                        ") differs from audio file frequency (" + std::to_string(rate) +
+                                                        ").");
         return true;
     }
     return false;

@@ -7,7 +7,7 @@
 
 namespace kore {
 
-/// What a file holds. (No string: that would fill its memory with noughts before the bytes come.)
+/// What a file holds. Not a string, which would first fill its memory with zeros.
 class FileText {
 public:
     std::string_view View() const { return {bytes.get(), size}; }

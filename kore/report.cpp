@@ -5,13 +5,13 @@
 
 namespace kore {
 
-void report_error(char const* unit, int line, char const* function, std::string const& message) {
-    std::cout << "E: " << unit << ":" << line << ", " << function << "() " << message << std::endl;
+void report_error(Place const& place, std::string const& message) {
+    std::cout << "E: " << place.unit << ":" << place.line << ", " << place.function << "() " << message << std::endl;
 }
 
-void assertion_failed(char const* expression, char const* unit, int line, char const* function) {
+void assertion_failed(char const* expression, Place const& place) {
     // glibc's own reporter behind assert(): it knows the program's name and the platform's wording.
-    __assert_fail(expression, unit, static_cast<unsigned int>(line), function);
+    __assert_fail(expression, place.unit, static_cast<unsigned int>(place.line), place.function);
 }
 
 } // namespace kore

@@ -1,7 +1,7 @@
 #include "runtime/beatclock.h"
 
 void BeatClock::Count(kore::StateData& state) {
-    if (state.time >= last_beat_time + beat_length) {
+    if (IsDue(state.time)) {
         state.beat_count += 1;
         last_beat_time += beat_length; // exactly one beat, whatever the time is: the grid does not drift
         state.new_beat = true;

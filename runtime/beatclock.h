@@ -19,6 +19,9 @@ public:
     /// @param beat  length of one beat, seconds
     explicit BeatClock(float beat) : beat_length(beat), last_beat_time(-beat) {}
 
+    /// Whether the next beat has come at a show time, in seconds.
+    bool IsDue(float time) const { return time >= last_beat_time + beat_length; }
+
     /// Counts a beat into the state if its time has come: raises beat_count by one and sets new_beat. The first call,
     /// at time 0 or just above, counts beat 0. One beat per call at most: after a stall the show catches up instead of
     /// skipping cues.

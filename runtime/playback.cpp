@@ -1,7 +1,7 @@
 #include "runtime/playback.h"
 
 void Playback::Skip() {
-    stepper.Update(static_cast<float>(next) / my_rate, my_rate);
+    stepper.Update(NextTime(), my_rate);
     ++next;
 }
 

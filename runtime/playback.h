@@ -13,8 +13,9 @@ public:
 
     kore::Demo& GetDemo() { return stepper.GetDemo(); }
 
-    /// The frame that comes next, counted from 0, and the state of the last one.
+    /// The frame that comes next, counted from 0, its beat, and the state of the last one.
     int NextFrame() const { return next; }
+    int NextBeat() const { return stepper.BeatAt(NextTime()); }
     kore::StateData const& State() const { return stepper.State(); }
 
     /// Plays the next frame unseen.
@@ -28,6 +29,8 @@ public:
     void Draw(DebugCamera const& view = {});
 
 private:
+    float NextTime() const { return static_cast<float>(next) / my_rate; }
+
     Stepper stepper;
     float my_rate;
     int next = 0;

@@ -25,6 +25,9 @@ public:
     kore::Demo& GetDemo() { return my_demo; }
     kore::Demo const& GetDemo() const { return my_demo; }
 
+    /// The beat count of an update at this show time, in seconds, if it came next.
+    int BeatAt(float time) const { return state.beat_count + (beats.IsDue(time) ? 1 : 0); }
+
     /// What the last update handed to the demo.
     kore::StateData const& State() const { return state; }
 

@@ -5,6 +5,7 @@
 #include "kore/music.h"
 #include "kore/scene.h"
 
+#include <array>
 #include <memory>
 #include <span>
 
@@ -35,6 +36,7 @@ struct SceneEntry {
     char const* name;  ///< short, for command lines and file names
     char const* title; ///< what the scene calls itself
     SceneFunction make;
+    std::array<float, 5> moments; ///< beats of the scene that show it at its best, for contact sheets
 };
 
 /// The scenes of the show, first to last.

@@ -108,8 +108,9 @@ void expect_same_or_limited(std::string const& path, std::string const& damaged)
     ASSERT_TRUE(file.Open(path));
     for (reference::Mesh const& mesh : expected.meshes) {
         if (file.Next() != kore::AscFile::Result::Object) {
-            EXPECT_THAT(file.GetFault(), AnyOf(MatchesRegex("Bad file format, face [0-9]+ has no vertex -?[0-9]+\\."),
-                                               MatchesRegex("Bad file format, more than 100000 (vertices|faces)\\.")));
+            EXPECT_THAT(file.GetFault(),
+                        AnyOf(MatchesRegex("Bad file format in [^:]+: face [0-9]+ has no vertex -?[0-9]+\\."),
+                              MatchesRegex("Bad file format in [^:]+: more than 100000 (vertices|faces)\\.")));
             return;
         }
         EXPECT_EQ(file.GetName(), mesh.name);

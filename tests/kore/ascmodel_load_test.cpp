@@ -80,10 +80,10 @@ constexpr Row rows[] = {
     {"header-counts-missing.asc",          -1, 0, "Bad file format"},
     {"header-counts-overflow.asc",         -1, 0, "Bad file format"},
     {"header-counts-wrap.asc",             -1, 0, "Bad file format"},
-    {"face-index-overflow.asc",            -1, 0, "Bad file format, face 0 has no vertex 9223372036854775807."},
-    {"face-index-wrap.asc",                -1, 0, "Bad file format, face 0 has no vertex 4294967297."},
-    {"face-index-negative.asc",            -1, 0, "Bad file format, face 0 has no vertex -1."},
-    {"face-index-too-large.asc",           -1, 0, "Bad file format, face 0 has no vertex 100000."},
+    {"face-index-overflow.asc",            -1, 0, "Bad file format in tests/data/face-index-overflow.asc: face 0 has no vertex 9223372036854775807."},
+    {"face-index-wrap.asc",                -1, 0, "Bad file format in tests/data/face-index-wrap.asc: face 0 has no vertex 4294967297."},
+    {"face-index-negative.asc",            -1, 0, "Bad file format in tests/data/face-index-negative.asc: face 0 has no vertex -1."},
+    {"face-index-too-large.asc",           -1, 0, "Bad file format in tests/data/face-index-too-large.asc: face 0 has no vertex 100000."},
 };
 // clang-format on
 
@@ -185,29 +185,34 @@ std::string mesh_of(int vertices, int faces) {
     return text;
 }
 
+std::string fault_in(std::string const& path, std::string const& fault) {
+    return fault.empty() ? "" : "Bad file format in " + path + ": " + fault;
+}
+
 TEST_F(Loader, TakesAsMuchAsItsTablesHoldAndNoMore) {
     struct {
         int vertices, faces;
         bool full;
         int result;
-        char const* message;
+        char const* fault; ///< behind the name of the file
         // clang-format off
     } const sizes[] = {
         {100000, 1,      false, 0,  ""},
         {1,      100000, false, 0,  ""},
-        {100001, 1,      false, -1, "Bad file format, more than 100000 vertices."},
-        {1,      100001, false, -1, "Bad file format, more than 100000 faces."},
+        {100001, 1,      false, -1, "more than 100000 vertices."},
+        {1,      100001, false, -1, "more than 100000 faces."},
         {1,      10000,  true,  1,  ""},
-        {1,      10001,  true,  -1, "Bad file format, 10001 faces are too many to be stored one by one."},
-        {100001, 1,      true,  -1, "Bad file format, more than 100000 vertices."},
+        {1,      10001,  true,  -1, "10001 faces are too many to be stored one by one."},
+        {100001, 1,      true,  -1, "more than 100000 vertices."},
     };
     // clang-format on
     support::TempFolder const temp;
     for (auto const& size : sizes) {
         SCOPED_TRACE(testing::Message() << size.vertices << " vertices, " << size.faces << " faces");
         models = kore::AscModel(folder);
-        EXPECT_EQ(Load(temp.Write("big.asc", mesh_of(size.vertices, size.faces)), size.full), size.result);
-        EXPECT_THAT(printed, MatchesRegex(line_of(size.message)));
+        std::string const path = temp.Write("big.asc", mesh_of(size.vertices, size.faces));
+        EXPECT_EQ(Load(path, size.full), size.result);
+        EXPECT_THAT(printed, MatchesRegex(line_of(fault_in(path, size.fault))));
     }
 }
 
@@ -216,10 +221,10 @@ TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
         int vertices, faces;
         char const* last; ///< and the line that takes its place
         char const* odd;
-        char const* message;
+        char const* fault; ///< behind the name of the file
     } const meshes[] = {
-        {100001, 1, "Vertex 100000:", "Vertex 100000 :", "Bad file format, more than 100000 vertices."},
-        {1, 100001, "Face 100000:", "Face 100000 :", "Bad file format, more than 100000 faces."},
+        {100001, 1, "Vertex 100000:", "Vertex 100000 :", "more than 100000 vertices."},
+        {1, 100001, "Face 100000:", "Face 100000 :", "more than 100000 faces."},
     };
     support::TempFolder const temp;
     for (auto const& mesh : meshes) {
@@ -227,8 +232,9 @@ TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
         std::string text = mesh_of(mesh.vertices, mesh.faces);
         ASSERT_NE(text.find(mesh.last), std::string::npos);
         text.replace(text.find(mesh.last), std::string(mesh.last).size(), mesh.odd);
-        EXPECT_EQ(Load(temp.Write("big.asc", text), false), -1);
-        EXPECT_THAT(printed, MatchesRegex(line_of(mesh.message)));
+        std::string const path = temp.Write("big.asc", text);
+        EXPECT_EQ(Load(path), -1);
+        EXPECT_THAT(printed, MatchesRegex(line_of(fault_in(path, mesh.fault))));
     }
 }
 

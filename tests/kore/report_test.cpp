@@ -14,7 +14,7 @@ void complain() { KORE_ERROR("no boat"); }
 
 TEST(Report, IsOneLineOnStandardOutput) {
     testing::internal::CaptureStdout();
-    kore::report_error("kore/boat.cpp", 12, "Launch", "no water");
+    kore::report_error({"kore/boat.cpp", 12, "Launch"}, "no water");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "E: kore/boat.cpp:12, Launch() no water\n");
 }
 
@@ -27,12 +27,13 @@ TEST(Report, NamesItsPlaceRelativeToTheSourceRoot) {
 
 TEST(Report, OfAHoldingAssertionIsNothing) {
     int runs = 0;
-    KORE_ASSERT_AT(++runs > 0, "kore/boat.cpp", 1, "f()");
+    KORE_ASSERT_AT(++runs > 0, (kore::Place{"kore/boat.cpp", 1, "f()"}));
     EXPECT_EQ(runs, 1); // the asserted expression does its work once
 }
 
 TEST(ReportDeathTest, OfABrokenAssertionIsThePlatformsLine) {
-    EXPECT_EXIT(KORE_ASSERT_AT(2 + 2 == 5, "kore/boat.cpp", 77, "void f(int)"), testing::KilledBySignal(SIGABRT),
+    EXPECT_EXIT(KORE_ASSERT_AT(2 + 2 == 5, (kore::Place{"kore/boat.cpp", 77, "void f(int)"})),
+                testing::KilledBySignal(SIGABRT),
                 "kore_test: kore/boat\\.cpp:77: void f\\(int\\): Assertion `2 \\+ 2 == 5' failed\\.");
 }
 

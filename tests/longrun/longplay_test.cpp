@@ -89,7 +89,7 @@ TEST_F(LongPlay, EndsWithTheLastSceneWhereNothingIsSkipped) {
         playback.Skip();
     } while (!show_over(State().beat_count, demo));
     EXPECT_TRUE(demo.GetFinished());
-    EXPECT_EQ(State().beat_count, scores::total_beats());
+    EXPECT_EQ(State().beat_count, scores::show_beats);
     for (int const n : starts) EXPECT_EQ(n, 1);
 }
 

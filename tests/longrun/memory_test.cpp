@@ -35,7 +35,7 @@ struct Taken {
 Taken play_show() {
     int const beats = wholeshow::play(
         60, [] {}, [](wholeshow::Frame const&) {});
-    EXPECT_EQ(beats, scores::total_beats());
+    EXPECT_EQ(beats, scores::show_beats);
     long const blocks = allocations::live;
     return {blocks, resident()};
 }

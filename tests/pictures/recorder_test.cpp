@@ -111,7 +111,7 @@ TEST_F(Recorder, SheetHoldsThePicturesInTheOrderAskedFor) {
     cell.create(64, 48);
     cell.copy(sheet, 0, 0, sf::IntRect(4, 4, 64, 48));
     EXPECT_EQ(differing_pixels(cell, wire, 0), 0u);
-    cell.copy(sheet, 0, 0, sf::IntRect(4, 74, 64, 48));
+    cell.copy(sheet, 0, 0, sf::IntRect(4, 78, 64, 48));
     EXPECT_EQ(differing_pixels(cell, word, 0), 0u);
 }
 
@@ -119,6 +119,17 @@ TEST_F(Recorder, DrawsThePulseWireUnlessToldOtherwise) {
     ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out with", "HARDSILENCE_WIRE=0").status, 0);
     ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out without --no-wire", "HARDSILENCE_WIRE=1").status, 0);
     EXPECT_NE(content(In("with/beat_184.500.png")), content(In("without/beat_184.500.png")));
+}
+
+TEST_F(Recorder, TakesTheMomentsOfEveryScene) {
+    ASSERT_EQ(Record("--overview --size 16x12 --out .").status, 0);
+    std::size_t pictures = 0;
+    for (fs::directory_entry const& entry : fs::directory_iterator(folder)) {
+        pictures += entry.path().extension() == ".png" ? 1 : 0;
+    }
+    EXPECT_EQ(pictures, running_order().size() * running_order()[0].moments.size());
+    EXPECT_TRUE(fs::exists(In("beat_000.500.png"))) << "half a beat into the first scene";
+    EXPECT_TRUE(fs::exists(In("beat_020.100.png"))) << "4.1 beats into the second, which begins at 16";
 }
 
 TEST_F(Recorder, ListsTheScenes) {
@@ -148,15 +159,15 @@ TEST_F(Recorder, ListsTheScenes) {
 }
 
 TEST_F(Recorder, PlaysToTheLastFrameAndNotPastIt) {
-    std::string const last = std::to_string(scores::total_beats() - 1);
+    std::string const last = std::to_string(scores::show_beats - 1);
     EXPECT_EQ(Record("--beats " + last + ".95 --size 16x12 --out .").status, 0);
     EXPECT_EQ(Record("--beats 15.9 --scene intro --size 16x12 --out .").status, 0);
 }
 
 TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     std::ofstream(In("file")) << "in the way";
-    std::string const beats = std::to_string(scores::total_beats());
-    std::string const last = std::to_string(scores::total_beats() - 1);
+    std::string const beats = std::to_string(scores::show_beats);
+    std::string const last = std::to_string(scores::show_beats - 1);
     std::string const past_the_end = " lies past the last frame of the show, which has " + beats + " beats";
     std::pair<std::string, std::string> const cases[] = {
         {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"},

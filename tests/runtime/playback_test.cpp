@@ -43,6 +43,7 @@ TEST_F(Playback, HandsEachFrameItsTimeAndItsBeat) {
     EXPECT_EQ(playback.NextFrame(), 0);
     for (int frame = 0; frame < 16; ++frame) {
         SCOPED_TRACE(frame);
+        EXPECT_EQ(playback.NextBeat(), frame / 4);
         playback.Skip();
         kore::StateData const& state = diary->states.at(static_cast<std::size_t>(frame));
         EXPECT_EQ(state.time, static_cast<float>(frame) / rate);

@@ -241,10 +241,4 @@ std::vector<Score> const& all() {
     return scores;
 }
 
-int total_beats() {
-    int beats = 0;
-    for (Score const& score : all()) beats += score.length;
-    return beats;
-}
-
 } // namespace scores

@@ -47,7 +47,7 @@ struct Score {
 /// All scenes, in the order of the show.
 std::vector<Score> const& all();
 
-/// Length of the show.
-int total_beats();
+/// Length of the show, beats.
+constexpr int show_beats = 384;
 
 } // namespace scores

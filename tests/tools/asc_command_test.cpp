@@ -29,13 +29,14 @@ struct Tally {
 
 Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
     Tally tally;
-    for (int y = part.top; y < part.top + part.height; ++y)
+    for (int y = part.top; y < part.top + part.height; ++y) {
         for (int x = part.left; x < part.left + part.width; ++x) {
             int const level = image.getPixel(static_cast<unsigned int>(x), static_cast<unsigned int>(y)).r;
             tally.black += level == 0 ? 1 : 0;
             tally.white += level == 255 ? 1 : 0;
             tally.ink += (255 - level) / 255.0;
         }
+    }
     return tally;
 }
 
@@ -229,16 +230,17 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
     put("junk.asc", "this is no mesh\r\n");
     EXPECT_EQ(call("convert a.off -o a.asc").status, 0);
     std::pair<std::string, std::string> const cases[] = {
-        {"fly", "unknown command 'fly' (convert, join, check, preview, sheet)"},
-        {"convert a.off", "convert needs input files and -o OUT.asc"},
-        {"convert -o a.asc", "convert needs input files and -o OUT.asc"},
-        {"convert a.off -o", "option -o needs a value"},
-        {"convert --fast a.off -o a.asc", "unknown option --fast"},
-        {"convert --refine nought a.off -o a.asc",
-         "option --refine: 'nought' is neither a number nor three between commas"},
-        {"convert --refine -1 a.off -o a.asc", "option --refine is out of range"},
-        {"convert --min-angle 50 a.off -o a.asc", "option --min-angle is out of range"},
-        {"convert --centre 1,2 a.off -o a.asc", "option --centre: '1,2' is neither a number nor three between commas"},
+        {"fly", "The following argument was not expected: fly"},
+        {"convert a.off", "-o is required"},
+        {"convert -o a.asc", "INPUT is required"},
+        {"convert a.off -o", "-o: 1 required OUT.asc missing"},
+        {"convert --fast a.off -o a.asc", "The following argument was not expected: --fast"},
+        {"convert --refine nought a.off -o a.asc", "--refine: 'nought' is not a number from 0.0001 to 1000000"},
+        {"convert --refine -1 a.off -o a.asc", "--refine: '-1' is not a number from 0.0001 to 1000000"},
+        {"convert --weld nan a.off -o a.asc", "--weld: 'nan' is not a number from 0.000001 to 1000"},
+        {"convert --min-angle 50 a.off -o a.asc", "--min-angle: '50' is not a number from 0 to 30"},
+        {"convert --centre 1,2 a.off -o a.asc", "--centre: '1,2' is not a number or three between commas"},
+        {"convert --centre 1,2,3, a.off -o a.asc", "--centre: '1,2,3,' is not a number or three between commas"},
         {"convert none.off -o a.asc", "none.off: no such file"},
         {"convert . -o a.asc", ".: no such file"},
         {"convert line.obj -o a.asc", "line.obj: nothing is left of object 'line'"},
@@ -246,15 +248,17 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"convert a.off -o none/a.asc", "cannot write none/a.asc"},
         {"convert 'a\"b=a.off' -o a.asc", "'a\"b' cannot be the name of an object"},
         {"convert x=a.off x=a.off -o a.asc", "a.asc would be faulty: the name 'x' stands at line 1 too"},
-        {"check", "check needs mesh files"},
+        {"check", "FILE is required"},
         {"check none.asc", "cannot read none.asc"},
         {"check .", "cannot read ."},
         {"join junk.asc -o a.asc", "junk.asc:1: expected a line like: Named object: \"name\""},
         {"preview junk.asc", "junk.asc:1: expected a line like: Named object: \"name\""},
-        {"preview", "preview needs one mesh file"},
+        {"preview a.asc b.asc", "The following argument was not expected: b.asc"},
+        {"preview a.asc --object b", "a.asc holds no object 'b'"},
+        {"preview", "FILE is required"},
         {"sheet a.asc -o none/a.png", "cannot write none/a.png"},
-        {"sheet a.asc --panel 2000 --columns 1000 -o a.png", "option --columns is out of range"},
-        {"sheet -o a.png", "sheet needs mesh files and -o OUT.png"},
+        {"sheet a.asc --panel 2000 --columns 1000 -o a.png", "--columns: '1000' is not a number from 1 to 100"},
+        {"sheet -o a.png", "FILE is required"},
     };
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(arguments);
@@ -268,10 +272,20 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
     EXPECT_EQ(std::count(junk.said.begin(), junk.said.end(), '\n'), 1);
 }
 
-TEST_F(AscCommand, WithoutACommandItTellsItsUse) {
+TEST_F(AscCommand, TellsItsUseAndItsVersion) {
+    Outcome const help = call("--help");
+    EXPECT_EQ(help.status, 0);
+    for (char const* const word : {"convert", "--weld DISTANCE", "join", "check", "--shatter", "preview",
+                                   "--camera X,Y,Z", "--no-lines ", "sheet", "--panel PIXELS"}) {
+        EXPECT_NE(help.said.find(word), std::string::npos) << word;
+    }
+    EXPECT_EQ(call("--help 2>/dev/null #").said, help.said);
+    EXPECT_EQ(call("convert --help").status, 0);
     EXPECT_EQ(call("").status, 1);
-    EXPECT_EQ(call("--help").status, 0);
-    EXPECT_EQ(call("").said, call("--help").said);
+    EXPECT_EQ(call("").said, help.said) << "without a command, too";
+    EXPECT_EQ(call("2>&1 >/dev/null #").said, help.said);
+    EXPECT_EQ(call("--version").said, "asc " HARDSILENCE_VERSION "\n");
+    EXPECT_EQ(call("--version").status, 0);
 }
 
 } // namespace

@@ -128,9 +128,11 @@ TEST(AscParse, SurvivesEveryCutAndEveryBrokenByteOfAFile) {
         for (char const c : {'\0', '\n', '-', '9', '\xFF'}) {
             std::string broken = whole;
             broken[at] = c;
-            for (auto const& read : asc::parse(broken).objects)
-                for (asc::Face const& face : read.object.faces)
+            for (auto const& read : asc::parse(broken).objects) {
+                for (asc::Face const& face : read.object.faces) {
                     for (int v : face.v) EXPECT_LT(static_cast<std::size_t>(v), read.object.vertices.size());
+                }
+            }
         }
     }
 }

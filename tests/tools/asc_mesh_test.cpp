@@ -40,15 +40,37 @@ asc::Object square_with_hole() {
 
 std::vector<std::string> fault_texts(asc::Object const& object, bool shattered = false) {
     std::vector<std::string> texts;
-    for (asc::Fault const& fault : asc::faults_of(asc::ReadObject{object, 1, {}, {}}, shattered))
+    for (asc::Fault const& fault : asc::faults_of(asc::ReadObject{object, 1, {}, {}}, shattered)) {
         texts.push_back(fault.text);
+    }
     return texts;
+}
+
+/// Two cubes beside each other.
+asc::Object two_cubes() {
+    asc::Object both = cube();
+    for (asc::Vec3 p : cube().vertices) both.vertices.push_back({p.x + 5, p.y, p.z});
+    for (asc::Face face : cube().faces) both.faces.push_back({{face.v[0] + 8, face.v[1] + 8, face.v[2] + 8}, {}});
+    return both;
 }
 
 double area(asc::Object const& object) {
     double sum = 0.0;
     for (asc::Face const& face : object.faces) sum += 0.5 * asc::length(asc::face_normal(object, face));
     return sum;
+}
+
+TEST(AscMesh, PartsHangTogetherOverTheEdgesThatJoinThem) {
+    asc::Object const object = two_cubes();
+    asc::Edges const edges = asc::edges_of(object);
+    auto const cubes = asc::parts_of(object, edges, [](auto const&) { return true; });
+    ASSERT_EQ(cubes.size(), 2U);
+    for (std::size_t f = 0; f < 24; ++f) EXPECT_EQ(cubes[f / 12][f % 12], f);
+    std::set<asc::Edge> const shown = asc::creases(object);
+    auto const sides = asc::parts_of(object, edges, [&](auto const& edge) { return !shown.contains(edge.first); });
+    ASSERT_EQ(sides.size(), 12U);
+    for (std::size_t f = 0; f < 24; ++f) EXPECT_EQ(sides[f / 2][f % 2], f) << "two triangles each";
+    EXPECT_EQ(asc::parts_of(object, edges, [](auto const&) { return false; }).size(), 24U);
 }
 
 TEST(AscCreases, OfACubeAreItsTwelveEdgesAndNoDiagonal) {
@@ -102,6 +124,18 @@ TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDoubleOrLoose) {
     EXPECT_EQ(object.faces.size(), 12U);
 }
 
+TEST(AscRepair, CleanJoinsWhatLiesNearerThanTheDistance) {
+    for (asc::Vec3 const& aside : {asc::Vec3{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {-1, 0, 0}, {0, -1, 0}, {0, 0, -1}}) {
+        for (double const away : {0.009, 0.011}) {
+            asc::Object object = cube();
+            object.vertices.push_back(object.vertices[7] + aside * away);
+            object.faces[3].v[2] = 8; // instead of 7
+            asc::clean(object, 0.01);
+            EXPECT_EQ(object.vertices.size(), away < 0.01 ? 8U : 9U) << aside.x << ' ' << aside.y << ' ' << aside.z;
+        }
+    }
+}
+
 TEST(AscRepair, CleanTakesAThinFaceOutWithoutOpeningAGap) {
     // The lower triangle's base 0-1 carries a thin face with its tip in the middle of the base.
     asc::Object object{"thin",
@@ -118,13 +152,21 @@ TEST(AscRepair, CleanTakesAThinFaceOutWithoutOpeningAGap) {
 TEST(AscRepair, WindTurnsAClosedMeshOutwardWhicheverFacesWereTurned) {
     for (unsigned mask : {0U, 1U, 0xFFFU, 0x555U}) {
         asc::Object object = cube();
-        for (std::size_t f = 0; f < object.faces.size(); ++f)
+        for (std::size_t f = 0; f < object.faces.size(); ++f) {
             if (mask >> f & 1U) std::swap(object.faces[f].v[0], object.faces[f].v[1]);
+        }
         asc::wind(object);
         EXPECT_DOUBLE_EQ(asc::volume(object), 8.0) << mask;
         asc::flag_creases(object);
         EXPECT_EQ(fault_texts(object), std::vector<std::string>{});
     }
+}
+
+TEST(AscRepair, WindTurnsEveryClosedPartByItself) {
+    asc::Object object = two_cubes();
+    for (std::size_t f = 12; f < 24; ++f) std::swap(object.faces[f].v[0], object.faces[f].v[1]);
+    asc::wind(object);
+    EXPECT_DOUBLE_EQ(asc::volume(object), 16.0);
 }
 
 TEST(AscRepair, WindTurnsAFlatMeshToTheViewer) {

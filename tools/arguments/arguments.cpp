@@ -7,7 +7,8 @@ void set_up(CLI::App& app) {
     app.set_help_flag();
     app.set_help_all_flag("-h,--help", "Show this help");
     app.set_version_flag("--version", app.get_name() + " " HARDSILENCE_VERSION, "Show the version");
-    app.get_formatter()->column_width(22);
+    app.get_formatter()->column_width(24);
+    app.get_formatter()->label("REQUIRED", "(required)");
 }
 
 void add_value(CLI::App& app, std::string const& name, std::string const& type,

@@ -2,40 +2,42 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
+#include <fstream>
+#include <sstream>
 
 namespace asc {
 
 namespace {
 
 constexpr std::string_view name_start = "Named object: \"";
+constexpr std::array corner_names{"A:", "B:", "C:"};
+constexpr std::array edge_names{"AB:", "BC:", "CA:"};
 
 /// Cuts the text of one line into fixed words and numbers; any mismatch makes `ok` false for good.
 class Scanner {
 public:
     explicit Scanner(std::string_view line) : rest(line) {}
 
-    Scanner& word(std::string_view expected) {
+    Scanner& Word(std::string_view expected) {
         ok = ok && rest.starts_with(expected);
         if (ok) rest.remove_prefix(expected.size());
         return *this;
     }
     /// One blank or more.
-    Scanner& blanks() {
+    Scanner& Blanks() {
         ok = ok && rest.starts_with(' ');
         while (rest.starts_with(' ')) rest.remove_prefix(1);
         return *this;
     }
-    template<typename Number>
-    Scanner& number(Number& value) {
+    template<typename Value>
+    Scanner& Number(Value& value) {
         auto const [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value);
         ok = ok && error == std::errc{};
         if (ok) rest.remove_prefix(static_cast<std::size_t>(end - rest.data()));
         return *this;
     }
-    bool done() const { return ok && rest.empty(); }
+    bool Done() const { return ok && rest.empty(); }
 
 private:
     std::string_view rest;
@@ -52,20 +54,21 @@ class Lines {
 public:
     Lines(std::string_view whole, std::vector<Fault>& out) : text(whole), faults(out) {}
 
-    bool next(Line& line) {
+    bool Next(Line& line) {
         if (text.empty()) return false;
         std::size_t const end = text.find('\n');
         line.number = ++count;
         line.text = text.substr(0, end);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
         if (end == std::string_view::npos) faults.push_back({count, "the last line has no line end"});
-        if (line.text.ends_with('\r'))
+        if (line.text.ends_with('\r')) {
             line.text.remove_suffix(1);
-        else if (end != std::string_view::npos)
+        } else if (end != std::string_view::npos) {
             faults.push_back({count, "the line does not end in carriage return and line feed"});
+        }
         return true;
     }
-    bool at_end() const { return text.empty(); }
+    bool AtEnd() const { return text.empty(); }
 
 private:
     std::string_view text;
@@ -78,73 +81,78 @@ class Parser {
 public:
     explicit Parser(std::string_view text) : lines(text, file.faults) {}
 
-    ReadFile run() {
-        if (!lines.next(line)) fault("the file is empty");
+    ReadFile Run() {
+        if (!lines.Next(line)) AddFault("the file is empty");
         while (line.number > 0) {
-            bool const good = object();
+            bool const good = ParseObject();
             if (good) file.objects.push_back(std::move(current));
-            if (!to_next_object(good)) break;
+            if (!ToNextObject(good)) break;
         }
         return std::move(file);
     }
 
 private:
-    void fault(std::string text) { file.faults.push_back({line.number, std::move(text)}); }
+    void AddFault(std::string text) { file.faults.push_back({line.number, std::move(text)}); }
 
-    bool object() {
+    bool ParseObject() {
         current = {};
         current.line = line.number;
         int vertices = 0, faces = 0;
-        if (!name() || !header(vertices, faces)) return false;
-        if (!marker("Vertex list:")) return false;
-        for (int i = 0; i < vertices; ++i)
-            if (!vertex(i)) return false;
-        if (!marker("Face list:")) return false;
-        for (int i = 0; i < faces; ++i)
-            if (!face(i)) return false;
+        if (!ParseName() || !ParseHeader(vertices, faces)) return false;
+        if (!ParseMarker("Vertex list:")) return false;
+        for (int i = 0; i < vertices; ++i) {
+            if (!ParseVertex(i)) return false;
+        }
+        if (!ParseMarker("Face list:")) return false;
+        for (int i = 0; i < faces; ++i) {
+            if (!ParseFace(i)) return false;
+        }
         return true;
     }
 
-    bool name() {
+    bool ParseName() {
         std::string_view text = line.text;
         if (!text.starts_with(name_start) || !text.ends_with('"') || text.size() < name_start.size() + 2) {
-            fault("expected a line like: Named object: \"name\"");
+            AddFault("expected a line like: Named object: \"name\"");
             return false;
         }
         text.remove_prefix(name_start.size());
         text.remove_suffix(1);
         current.object.name = text;
-        for (auto const& earlier : file.objects)
-            if (earlier.object.name == current.object.name)
-                fault("the name '" + current.object.name + "' stands at line " + std::to_string(earlier.line) + " too");
+        for (auto const& earlier : file.objects) {
+            if (earlier.object.name == current.object.name) {
+                AddFault("the name '" + current.object.name + "' stands at line " + std::to_string(earlier.line) +
+                         " too");
+            }
+        }
         return true;
     }
 
-    bool header(int& vertices, int& faces) {
-        if (!next("the mesh header")) return false;
+    bool ParseHeader(int& vertices, int& faces) {
+        if (!NextLine("the mesh header")) return false;
         Scanner scanner(line.text);
-        scanner.word("Tri-mesh, Vertices:").blanks().number(vertices).blanks().word("Faces:").blanks().number(faces);
-        if (scanner.done() && vertices > 0 && faces > 0) return true;
-        fault("expected a line like: Tri-mesh, Vertices: 8     Faces: 12");
+        scanner.Word("Tri-mesh, Vertices:").Blanks().Number(vertices).Blanks().Word("Faces:").Blanks().Number(faces);
+        if (scanner.Done() && vertices > 0 && faces > 0) return true;
+        AddFault("expected a line like: Tri-mesh, Vertices: 8     Faces: 12");
         return false;
     }
 
-    bool marker(std::string_view text) {
-        if (!next(std::string(text))) return false;
+    bool ParseMarker(std::string_view text) {
+        if (!NextLine(std::string(text))) return false;
         if (line.text == text) return true;
-        fault("expected '" + std::string(text) + "'; the header's counts may be wrong");
+        AddFault("expected '" + std::string(text) + "'; the header's counts may be wrong");
         return false;
     }
 
-    bool vertex(int index) {
-        if (!next("vertex " + std::to_string(index))) return false;
+    bool ParseVertex(int index) {
+        if (!NextLine("vertex " + std::to_string(index))) return false;
         int at = -1;
         Vec3 p;
         Scanner scanner(line.text);
-        scanner.word("Vertex ").number(at).word(":").blanks();
-        scanner.word("X:").number(p.x).blanks().word("Y:").number(p.y).blanks().word("Z:").number(p.z);
-        if (!scanner.done() || at != index || !std::isfinite(p.x + p.y + p.z)) {
-            fault("expected vertex " + std::to_string(index) + " with X, Y and Z; the header's counts may be wrong");
+        scanner.Word("Vertex ").Number(at).Word(":").Blanks();
+        scanner.Word("X:").Number(p.x).Blanks().Word("Y:").Number(p.y).Blanks().Word("Z:").Number(p.z);
+        if (!scanner.Done() || at != index || !std::isfinite(p.x + p.y + p.z)) {
+            AddFault("expected vertex " + std::to_string(index) + " with X, Y and Z; the header's counts may be wrong");
             return false;
         }
         current.object.vertices.push_back(p);
@@ -152,70 +160,65 @@ private:
         return true;
     }
 
-    bool face(int index) {
-        if (!next("face " + std::to_string(index))) return false;
+    bool ParseFace(int index) {
+        if (!NextLine("face " + std::to_string(index))) return false;
         int at = -1;
         Face f;
         Scanner scanner(line.text);
-        scanner.word("Face ").number(at).word(":").blanks();
-        scanner.word("A:")
-            .number(f.v[0])
-            .blanks()
-            .word("B:")
-            .number(f.v[1])
-            .blanks()
-            .word("C:")
-            .number(f.v[2])
-            .blanks();
-        scanner.word("AB:").number(f.edge[0]).blanks().word("BC:").number(f.edge[1]).blanks();
-        scanner.word("CA:").number(f.edge[2]);
-        if (!scanner.done() || at != index) {
-            fault("expected face " + std::to_string(index) +
-                  " with A, B, C, AB, BC and CA; the header's counts may be wrong");
+        scanner.Word("Face ").Number(at).Word(":");
+        for (std::size_t i = 0; i < 3; ++i) scanner.Blanks().Word(corner_names[i]).Number(f.v[i]);
+        for (std::size_t i = 0; i < 3; ++i) scanner.Blanks().Word(edge_names[i]).Number(f.edge[i]);
+        if (!scanner.Done() || at != index) {
+            AddFault("expected face " + std::to_string(index) +
+                     " with A, B, C, AB, BC and CA; the header's counts may be wrong");
             return false;
         }
         int const vertices = static_cast<int>(current.object.vertices.size());
-        for (int v : f.v)
+        for (int v : f.v) {
             if (v < 0 || v >= vertices) {
-                fault("vertex index " + std::to_string(v) + " is out of range: there are " + std::to_string(vertices));
+                AddFault("vertex index " + std::to_string(v) + " is out of range: there are " +
+                         std::to_string(vertices));
                 return false;
             }
-        for (int flag : f.edge)
+        }
+        for (int flag : f.edge) {
             if (flag != 0 && flag != 1) {
-                fault("edge flag " + std::to_string(flag) + " is neither 0 nor 1");
+                AddFault("edge flag " + std::to_string(flag) + " is neither 0 nor 1");
                 return false;
             }
+        }
         current.object.faces.push_back(f);
         current.face_lines.push_back(line.number);
         return true;
     }
 
     /// Steps to the first line of the next object; after a fault that is the next line with a name.
-    bool to_next_object(bool good) {
+    bool ToNextObject(bool good) {
         if (good) {
-            if (!lines.next(line)) return false;
+            if (!lines.Next(line)) return false;
             if (!line.text.empty()) {
-                fault("expected one blank line after the last face; the header's counts may be wrong");
-                return skip_to_name();
+                AddFault("expected one blank line after the last face; the header's counts may be wrong");
+                return SkipToName();
             }
-            if (lines.at_end()) {
-                fault("the file ends with a blank line");
+            if (lines.AtEnd()) {
+                AddFault("the file ends with a blank line");
                 return false;
             }
-            return lines.next(line);
+            return lines.Next(line);
         }
-        return skip_to_name();
+        return SkipToName();
     }
 
-    bool skip_to_name() {
-        while (lines.next(line))
+    bool SkipToName() {
+        while (lines.Next(line)) {
             if (line.text.starts_with(name_start)) return true;
+        }
         return false;
     }
 
-    bool next(std::string const& wanted) {
-        if (lines.next(line)) return true;
-        fault("the file ends where " + wanted + " should follow");
+    bool NextLine(std::string const& wanted) {
+        if (lines.Next(line)) return true;
+        AddFault("the file ends where " + wanted + " should follow");
         return false;
     }
 
@@ -237,7 +240,7 @@ std::string number_text(double value) {
 
 } // namespace
 
-ReadFile parse(std::string_view text) { return Parser(text).run(); }
+ReadFile parse(std::string_view text) { return Parser(text).Run(); }
 
 double rounded(double coordinate) {
     double const value = std::round(coordinate * 1e6) / 1e6;
@@ -267,28 +270,21 @@ std::string write(std::vector<Object> const& objects) {
     return out;
 }
 
-namespace {
-
-using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-} // namespace
-
 bool read_text(std::string const& path, std::string& text) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) return false;
-    Stream const in(std::fopen(path.c_str(), "rb"), &std::fclose);
-    if (!in) return false;
-    text.clear();
-    std::array<char, 65536> buffer{};
-    while (std::size_t const n = std::fread(buffer.data(), 1, buffer.size(), in.get())) text.append(buffer.data(), n);
-    return std::ferror(in.get()) == 0;
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream all;
+    all << in.rdbuf();
+    text = all.str();
+    return in.is_open() && !in.bad();
 }
 
 bool write_text(std::string const& path, std::string const& text) {
-    std::FILE* const out = std::fopen(path.c_str(), "wb");
-    if (!out) return false;
-    bool const written = std::fwrite(text.data(), 1, text.size(), out) == text.size();
-    return std::fclose(out) == 0 && written;
+    std::ofstream out(path, std::ios::binary);
+    out << text;
+    out.close();
+    return out.good();
 }
 
 } // namespace asc

@@ -17,76 +17,83 @@ class Checker {
 public:
     Checker(ReadObject const& read, bool taken_apart) : object(read.object), where(read), shattered(taken_apart) {}
 
-    std::vector<Fault> run() {
-        counts();
-        double_vertices();
-        loose_vertices();
-        faces();
-        edges();
-        outside();
+    std::vector<Fault> Run() {
+        CheckCounts();
+        CheckDoubleVertices();
+        CheckLooseVertices();
+        CheckFaces();
+        CheckEdges();
+        CheckOutside();
         return std::move(found);
     }
 
 private:
-    void add(int line, std::string const& text) { found.push_back({line, "object '" + object.name + "': " + text}); }
-    int vertex_line(std::size_t v) const { return v < where.vertex_lines.size() ? where.vertex_lines[v] : where.line; }
-    int face_line(std::size_t f) const { return f < where.face_lines.size() ? where.face_lines[f] : where.line; }
+    void Add(int line, std::string const& text) { found.push_back({line, "object '" + object.name + "': " + text}); }
+    int VertexLine(std::size_t v) const { return v < where.vertex_lines.size() ? where.vertex_lines[v] : where.line; }
+    int FaceLine(std::size_t f) const { return f < where.face_lines.size() ? where.face_lines[f] : where.line; }
 
-    void counts() {
+    void CheckCounts() {
         int const faces = static_cast<int>(object.faces.size());
         auto const more_than = [](int limit) { return "more than " + std::to_string(limit); };
-        if (static_cast<int>(object.vertices.size()) > kore::max_object_vertices)
-            add(where.line, more_than(kore::max_object_vertices) + " vertices");
-        if (faces > kore::max_object_faces) add(where.line, more_than(kore::max_object_faces) + " faces");
-        if (shattered && faces > kore::max_object_faces_full)
-            add(where.line, more_than(kore::max_object_faces_full) + " faces, too many to be shattered");
+        if (static_cast<int>(object.vertices.size()) > kore::max_object_vertices) {
+            Add(where.line, more_than(kore::max_object_vertices) + " vertices");
+        }
+        if (faces > kore::max_object_faces) Add(where.line, more_than(kore::max_object_faces) + " faces");
+        if (shattered && faces > kore::max_object_faces_full) {
+            Add(where.line, more_than(kore::max_object_faces_full) + " faces, too many to be shattered");
+        }
     }
 
-    void double_vertices() {
+    void CheckDoubleVertices() {
         std::map<Vec3, std::size_t> at;
         for (std::size_t v = 0; v < object.vertices.size(); ++v) {
             auto const [first, fresh] = at.emplace(object.vertices[v], v);
-            if (!fresh)
-                add(vertex_line(v),
+            if (!fresh) {
+                Add(VertexLine(v),
                     "vertex " + std::to_string(v) + " stands where vertex " + std::to_string(first->second) + " does");
+            }
         }
     }
 
-    void loose_vertices() {
+    void CheckLooseVertices() {
         std::vector<bool> used(object.vertices.size(), false);
-        for (Face const& face : object.faces)
+        for (Face const& face : object.faces) {
             for (int v : face.v) used[static_cast<std::size_t>(v)] = true;
-        for (std::size_t v = 0; v < used.size(); ++v)
-            if (!used[v]) add(vertex_line(v), "vertex " + std::to_string(v) + " belongs to no face");
+        }
+        for (std::size_t v = 0; v < used.size(); ++v) {
+            if (!used[v]) Add(VertexLine(v), "vertex " + std::to_string(v) + " belongs to no face");
+        }
     }
 
-    void faces() {
+    void CheckFaces() {
         std::map<std::array<int, 3>, std::size_t> at;
         for (std::size_t f = 0; f < object.faces.size(); ++f) {
-            if (degenerate(object, object.faces[f])) add(face_line(f), "face " + std::to_string(f) + " has no area");
+            if (degenerate(object, object.faces[f])) Add(FaceLine(f), "face " + std::to_string(f) + " has no area");
             auto key = object.faces[f].v;
             std::sort(key.begin(), key.end());
             auto const [first, fresh] = at.emplace(key, f);
-            if (!fresh)
-                add(face_line(f), "face " + std::to_string(f) + " repeats face " + std::to_string(first->second));
+            if (!fresh) {
+                Add(FaceLine(f), "face " + std::to_string(f) + " repeats face " + std::to_string(first->second));
+            }
         }
     }
 
-    void edges() {
+    void CheckEdges() {
         std::set<Edge> const wanted = creases(object), drawn = drawn_edges(object);
         for (auto const& [edge, sides] : edges_of(object)) {
             std::string const name = "edge " + std::to_string(edge.first) + "-" + std::to_string(edge.second);
-            int const line = face_line(sides.front().face);
+            int const line = FaceLine(sides.front().face);
             auto const forward = std::count_if(sides.begin(), sides.end(), [](Side const& s) { return s.forward; });
-            if (sides.size() % 2 == 0 && 2 * forward != static_cast<long>(sides.size()))
-                add(line, name + ": its faces are wound against each other");
-            if (wanted.contains(edge) && !drawn.contains(edge)) add(line, name + " is a crease and is not drawn");
-            if (!wanted.contains(edge) && drawn.contains(edge)) add(line, name + " is drawn and is no crease");
+            if (sides.size() % 2 == 0 && 2 * forward != static_cast<long>(sides.size())) {
+                Add(line, name + ": its faces are wound against each other");
+            }
+            if (wanted.contains(edge) && !drawn.contains(edge)) Add(line, name + " is a crease and is not drawn");
+            if (!wanted.contains(edge) && drawn.contains(edge)) Add(line, name + " is drawn and is no crease");
         }
     }
 
-    void outside() {
-        if (closed(edges_of(object)) && volume(object) < 0.0) add(where.line, "its faces look inward");
+    void CheckOutside() {
+        if (closed(edges_of(object)) && volume(object) < 0.0) Add(where.line, "its faces look inward");
     }
 
     Object const& object;
@@ -97,7 +104,7 @@ private:
 
 } // namespace
 
-std::vector<Fault> faults_of(ReadObject const& read, bool shattered) { return Checker(read, shattered).run(); }
+std::vector<Fault> faults_of(ReadObject const& read, bool shattered) { return Checker(read, shattered).Run(); }
 
 std::vector<Fault> faults_of(ReadFile const& file, bool shattered) {
     std::vector<Fault> all = file.faults;
@@ -119,7 +126,7 @@ std::string summary(Object const& object) {
         thin += angle < 15.0 ? 1 : 0;
     }
     for (auto const& [edge, sides] : edges_of(object)) ends += sides.size() != 2 ? 1 : 0;
-    std::string const kind = box.flat() ? "flat" : ends == 0 ? "closed" : "open";
+    std::string const kind = box.IsFlat() ? "flat" : ends == 0 ? "closed" : "open";
     std::array<char, 256> text{};
     std::snprintf(text.data(), text.size(),
                   ": %zu vertices, %zu faces, x %.3f..%.3f y %.3f..%.3f z %.3f..%.3f, %s, smallest angle %.1f, "

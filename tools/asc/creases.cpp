@@ -39,8 +39,9 @@ void turn_for_drawing(Face& face) {
 
 std::set<Edge> creases(Object const& object) {
     std::set<Edge> result;
-    for (auto const& [edge, sides] : edges_of(object))
+    for (auto const& [edge, sides] : edges_of(object)) {
         if (visible(object, sides)) result.insert(edge);
+    }
     return result;
 }
 

@@ -65,8 +65,9 @@ std::vector<Object> import_model(std::string const& path, std::string const& nam
     aiScene const* const scene = importer.ReadFile(path, aiProcess_Triangulate);
     if (!scene || !scene->mRootNode) {
         error = importer.GetErrorString();
-        for (char& c : error)
+        for (char& c : error) {
             if (c == '\n' || c == '\r') c = ' ';
+        }
         if (error.empty()) error = "not a model file";
         return {};
     }

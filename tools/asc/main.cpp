@@ -1,284 +1,130 @@
 // The mesh tool: turns model files into the show's meshes, checks them and draws them.
 
-#include "kore/asclimits.h"
-#include "tools/asc/ascfile.h"
-#include "tools/asc/check.h"
-#include "tools/asc/creases.h"
-#include "tools/asc/import.h"
-#include "tools/asc/picture.h"
-#include "tools/asc/refine.h"
-#include "tools/asc/repair.h"
+#include "tools/arguments/arguments.h"
+#include "tools/asc/commands.h"
 
 #include <SFML/System/Err.hpp>
-#include <charconv>
 #include <iostream>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <limits>
+#include <sstream>
 
 namespace {
 
-constexpr char help[] = R"(asc convert [options] [NAME=]IN... -o OUT.asc
-    makes a mesh file of model files (OFF, OBJ, STL, glTF ...), one object from each
-    --flat              keep only the lowest plane of a thin extrusion
-    --weld DISTANCE     join points nearer than this (default 0.00001)
-    --centre X,Y,Z      move the middle of the box there
-    --refine SIZE       cut the facets into even triangles with no side longer than SIZE
-    --min-angle DEG     smallest angle that --refine allows (0 to 30, default 20)
-asc join [NAME=]IN.asc... -o OUT.asc
-    puts the objects of mesh files one after the other in one file
-asc check [--shatter] FILE...
-    prints every object and every fault; status 1 when there is a fault
-    --shatter           the objects are to be taken apart: tells when one has too many faces
-asc preview FILE [-o OUT.png] [--object NAME] [view]
-    draws the objects: a sheet of them, or with a view as the show's camera sees them, 1024 x 768
-    --camera X,Y,Z      where the camera stands; --look X,Y,Z where it looks (0,0,0)
-    --scale S|X,Y,Z     --turn X,Y,Z (degrees)     --at X,Y,Z     where and how big the model is
-    --white             white faces on black        --no-lines, --all-lines
-asc sheet FILE... -o OUT.png [--columns N] [--panel PIXELS]
-    a contact sheet of all objects, solid and with their lines
-)";
-
-/// The arguments of one command, taken off from the front.
-struct Arguments {
-    std::vector<std::string> rest;
-    std::string error; ///< the first thing wrong, "" while all is well
-
-    void fail(std::string text) {
-        if (error.empty()) error = std::move(text);
-    }
-    /// Takes the flag out; false when it is not there.
-    bool flag(std::string_view name) { return std::erase(rest, name) > 0; }
-    /// Takes the option and its value out.
-    std::optional<std::string> value(std::string_view name) {
-        for (std::size_t i = 0; i < rest.size(); ++i) {
-            if (rest[i] != name) continue;
-            if (i + 1 == rest.size()) {
-                fail("option " + rest[i] + " needs a value");
-                return {};
-            }
-            std::string const found = rest[i + 1];
-            auto const at = rest.begin() + static_cast<std::ptrdiff_t>(i);
-            rest.erase(at, at + 2);
-            return found;
-        }
-        return {};
-    }
-    /// Up to three numbers between commas; a single one stands for all three.
-    std::optional<asc::Vec3> numbers(std::string_view name) {
-        auto const text = value(name);
-        if (!text) return {};
-        std::vector<double> found;
-        char const* at = text->data();
-        char const* const end = at + text->size();
-        for (;;) {
-            double number = 0.0;
-            auto const [next, error_code] = std::from_chars(at, end, number);
-            if (error_code != std::errc{}) break;
-            found.push_back(number);
-            at = next;
-            if (at == end || *at != ',') break;
-            ++at;
-        }
-        if (at == end && found.size() == 3) return asc::Vec3{found[0], found[1], found[2]};
-        if (at == end && found.size() == 1) return asc::Vec3{found[0], found[0], found[0]};
-        fail("option " + std::string(name) + ": '" + *text + "' is neither a number nor three between commas");
-        return {};
-    }
-    std::optional<double> number(std::string_view name, double least, double most) {
-        auto const found = numbers(name);
-        if (!found) return {};
-        if (found->x != found->y || found->x < least || found->x > most) {
-            fail("option " + std::string(name) + " is out of range");
-            return {};
-        }
-        return found->x;
-    }
-    /// What is left must be file names.
-    void no_more_options() {
-        for (std::string const& argument : rest)
-            if (argument.starts_with("-")) fail("unknown option " + argument);
-    }
+/// The commands' options, and the exit status of the one that ran.
+struct Tool {
+    asc::ConvertOptions convert;
+    asc::JoinOptions join;
+    asc::CheckOptions check;
+    asc::PreviewOptions preview;
+    asc::SheetOptions sheet;
+    std::optional<int> status;
 };
 
-int failed(std::string const& text) {
-    std::cerr << "asc: " << text << '\n';
-    return 1;
-}
-
-struct Input {
-    std::string name, path;
-};
-
-Input input_of(std::string const& argument) {
-    std::size_t const equals = argument.find('=');
-    if (equals == std::string::npos) return {"", argument};
-    return {argument.substr(0, equals), argument.substr(equals + 1)};
-}
-
-int save_objects(std::vector<asc::Object> const& objects, std::string const& out) {
-    for (asc::Object const& object : objects) {
-        if (object.name.empty() || object.name.find_first_of("\"\r\n") != std::string::npos)
-            return failed("'" + object.name + "' cannot be the name of an object");
-        if (object.faces.size() > static_cast<std::size_t>(kore::max_object_faces) ||
-            object.vertices.size() > static_cast<std::size_t>(kore::max_object_vertices))
-            return failed("object '" + object.name + "' has more than " + std::to_string(kore::max_object_faces) +
-                          " faces or vertices");
+/// Three numbers between commas; a single one stands for all three.
+bool read_vector(std::string const& text, asc::Vec3& vector) {
+    constexpr double most = std::numeric_limits<double>::max();
+    std::vector<double> found;
+    std::istringstream parts(text + ',');
+    for (std::string part; std::getline(parts, part, ',');) {
+        if (!read_number(part, -most, most, found.emplace_back())) return false;
     }
-    std::string const text = asc::write(objects);
-    if (auto const faults = asc::faults_of(asc::parse(text), false); !faults.empty())
-        return failed(out + " would be faulty: " + faults.front().text);
-    return asc::write_text(out, text) ? 0 : failed("cannot write " + out);
+    if (found.size() == 1) found.resize(3, found[0]);
+    if (found.size() == 3) vector = {found[0], found[1], found[2]};
+    return found.size() == 3;
 }
 
-/// Reads mesh files for drawing or joining. Returns false after one line about what is wrong.
-bool load(Input const& input, std::vector<asc::Object>& objects) {
-    std::string text;
-    if (!asc::read_text(input.path, text)) {
-        failed("cannot read " + input.path);
-        return false;
-    }
-    asc::ReadFile file = asc::parse(text);
-    if (!file.faults.empty()) {
-        failed(input.path + ":" + std::to_string(file.faults.front().line) + ": " + file.faults.front().text);
-        return false;
-    }
-    if (!input.name.empty() && file.objects.size() != 1) {
-        failed(input.path + " holds " + std::to_string(file.objects.size()) + " objects, only one can be named");
-        return false;
-    }
-    for (auto& read : file.objects) {
-        if (!input.name.empty()) read.object.name = input.name;
-        objects.push_back(std::move(read.object));
-    }
-    return true;
+void add_vector(CLI::App& command, std::string const& name, asc::Vec3& vector, std::string const& help) {
+    add_value(
+        command, name, "X,Y,Z", [&](std::string const& v) { return read_vector(v, vector); },
+        "a number or three between commas", help);
 }
 
-int save_picture(std::optional<sf::Image> const& picture, std::string const& out) {
-    if (!picture) return failed("OpenGL cannot draw such a picture off-screen");
-    return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
+void add_vector(CLI::App& command, std::string const& name, std::optional<asc::Vec3>& vector, std::string const& help) {
+    add_value(
+        command, name, "X,Y,Z", [&](std::string const& v) { return read_vector(v, vector.emplace()); },
+        "a number or three between commas", help);
 }
 
-int convert(Arguments arguments) {
-    auto const out = arguments.value("-o");
-    bool const flat = arguments.flag("--flat");
-    auto const middle = arguments.numbers("--centre");
-    double const weld = arguments.number("--weld", 1e-6, 1e3).value_or(asc::weld_distance);
-    auto const size = arguments.number("--refine", 1e-4, 1e6);
-    auto const angle = arguments.number("--min-angle", 0.0, 30.0);
-    arguments.no_more_options();
-    if (!arguments.error.empty()) return failed(arguments.error);
-    if (!out || arguments.rest.empty()) return failed("convert needs input files and -o OUT.asc");
-
-    std::vector<asc::Object> objects;
-    for (std::string const& argument : arguments.rest) {
-        Input const input = input_of(argument);
-        std::string error;
-        auto some = asc::import_model(input.path, input.name, error);
-        if (some.empty()) return failed(input.path + ": " + error);
-        for (asc::Object& object : some) {
-            if (flat) asc::keep_lowest_plane(object);
-            if (middle) asc::centre(object, *middle);
-            asc::clean(object, weld);
-            asc::wind(object);
-            if (object.faces.empty()) return failed(input.path + ": nothing is left of object '" + object.name + "'");
-            if (size && !asc::refine(object, *size, angle.value_or(20.0)))
-                return failed(input.path + ": the facets of object '" + object.name +
-                              "' do not come to fit each other");
-            asc::flag_creases(object);
-            objects.push_back(std::move(object));
-        }
-    }
-    return save_objects(objects, *out);
+void add_convert(CLI::App& app, Tool& tool) {
+    CLI::App& command = *app.add_subcommand("convert", "Make a mesh file of model files (OFF, OBJ, STL, glTF ...)");
+    asc::ConvertOptions& options = tool.convert;
+    command.add_option("INPUT", options.inputs, "Model files, one object from each; NAME=FILE names it")
+        ->type_name("")
+        ->required();
+    command.add_option("-o", options.out, "The mesh file")->type_name("OUT.asc")->required();
+    command.add_flag("--flat", options.flat, "Keep only the lowest plane of a thin extrusion");
+    auto const weld = [&](std::string const& v) { return read_number(v, 1e-6, 1e3, options.weld); };
+    add_value(command, "--weld", "DISTANCE", weld, "a number from 0.000001 to 1000",
+              "Join points nearer than this (0.00001)");
+    add_vector(command, "--centre", options.centre, "Move the middle of the box there");
+    auto const size = [&](std::string const& v) { return read_number(v, 1e-4, 1e6, options.size.emplace()); };
+    add_value(command, "--refine", "SIZE", size, "a number from 0.0001 to 1000000",
+              "Cut the facets into even triangles with no side longer than this");
+    auto const angle = [&](std::string const& v) { return read_number(v, 0.0, 30.0, options.min_angle); };
+    add_value(command, "--min-angle", "DEGREES", angle, "a number from 0 to 30", "Smallest angle of these (20)");
+    command.callback([&] { tool.status = asc::convert(options); });
 }
 
-int join(Arguments arguments) {
-    auto const out = arguments.value("-o");
-    arguments.no_more_options();
-    if (!arguments.error.empty()) return failed(arguments.error);
-    if (!out || arguments.rest.empty()) return failed("join needs mesh files and -o OUT.asc");
-    std::vector<asc::Object> objects;
-    for (std::string const& argument : arguments.rest)
-        if (!load(input_of(argument), objects)) return 1;
-    return save_objects(objects, *out);
+void add_join(CLI::App& app, Tool& tool) {
+    CLI::App& command = *app.add_subcommand("join", "Put the objects of mesh files one after the other in one file");
+    command.add_option("INPUT", tool.join.inputs, "Mesh files; NAME=FILE names the only object of one")
+        ->type_name("")
+        ->required();
+    command.add_option("-o", tool.join.out, "The mesh file")->type_name("OUT.asc")->required();
+    command.callback([&] { tool.status = asc::join(tool.join); });
 }
 
-int check(Arguments arguments) {
-    bool const shattered = arguments.flag("--shatter");
-    arguments.no_more_options();
-    if (!arguments.error.empty()) return failed(arguments.error);
-    if (arguments.rest.empty()) return failed("check needs mesh files");
-    int status = 0;
-    for (std::string const& path : arguments.rest) {
-        std::string text;
-        if (!asc::read_text(path, text)) {
-            status = failed("cannot read " + path);
-            continue;
-        }
-        asc::ReadFile const file = asc::parse(text);
-        for (auto const& read : file.objects) std::cout << path << ": " << asc::summary(read.object) << '\n';
-        for (asc::Fault const& fault : asc::faults_of(file, shattered)) {
-            std::cout << path << ':' << fault.line << ": " << fault.text << '\n';
-            status = 1;
-        }
-    }
-    return status;
+void add_check(CLI::App& app, Tool& tool) {
+    CLI::App& command =
+        *app.add_subcommand("check", "Print every object and every fault; status 1 if there is a fault");
+    command.add_option("FILE", tool.check.files, "Mesh files")->type_name("")->required();
+    command.add_flag("--shatter", tool.check.shatter, "The objects are to be taken apart: not too many faces for that");
+    command.callback([&] { tool.status = asc::check(tool.check); });
 }
 
-int preview(Arguments arguments) {
-    auto const out = arguments.value("-o");
-    auto const only = arguments.value("--object");
-    asc::View view;
-    auto const camera = arguments.numbers("--camera");
-    view.camera = camera.value_or(view.camera);
-    view.look = arguments.numbers("--look").value_or(view.look);
-    view.scale = arguments.numbers("--scale").value_or(view.scale);
-    view.turn = arguments.numbers("--turn").value_or(view.turn);
-    view.at = arguments.numbers("--at").value_or(view.at);
-    view.white = arguments.flag("--white");
-    view.lines = !arguments.flag("--no-lines");
-    view.all_lines = arguments.flag("--all-lines");
-    arguments.no_more_options();
-    if (!arguments.error.empty()) return failed(arguments.error);
-    if (arguments.rest.size() != 1) return failed("preview needs one mesh file");
-
-    std::string const& path = arguments.rest.front();
-    std::vector<asc::Object> objects;
-    if (!load({"", path}, objects)) return 1;
-    if (only) std::erase_if(objects, [&](asc::Object const& object) { return object.name != *only; });
-    if (objects.empty()) return failed(path + " holds no object '" + only.value_or("") + "'");
-    std::string const target = out.value_or(path.substr(0, path.rfind(".asc")) + ".png");
-    return save_picture(camera ? asc::draw_view(objects, view, 1024, 768) : asc::draw_sheet(objects, 2, 380), target);
+void add_preview(CLI::App& app, Tool& tool) {
+    CLI::App& command = *app.add_subcommand(
+        "preview",
+        "Draw a mesh file: a sheet of its objects, or with --camera what the show's camera sees, 1024 x 768");
+    asc::PreviewOptions& options = tool.preview;
+    asc::View& view = options.view;
+    command.add_option("FILE", options.file, "A mesh file")->type_name("")->required();
+    command.add_option("-o", options.out, "The picture (the file's name with .png)")->type_name("OUT.png");
+    command.add_option("--object", options.object, "Only this object")->type_name("NAME");
+    add_vector(command, "--camera", options.camera, "Where the camera stands");
+    add_vector(command, "--look", view.look, "Where it looks (0,0,0)");
+    add_vector(command, "--scale", view.scale, "How big the model is (1); a single number is for x, y and z");
+    add_vector(command, "--turn", view.turn, "How it is turned, degrees (0,0,0)");
+    add_vector(command, "--at", view.at, "Where it is (0,0,0)");
+    command.add_flag("--white", view.white, "White faces with black lines on black");
+    command.add_flag_callback(
+        "--no-lines", [&] { view.lines = false; }, "Faces alone");
+    command.add_flag("--all-lines", view.all_lines, "Every side of every face, as of a model that is taken apart");
+    command.callback([&] { tool.status = asc::preview(options); });
 }
 
-int sheet(Arguments arguments) {
-    auto const out = arguments.value("-o");
-    auto const columns = static_cast<unsigned int>(arguments.number("--columns", 1, 100).value_or(5));
-    auto const panel = static_cast<unsigned int>(arguments.number("--panel", 20, 2000).value_or(150));
-    arguments.no_more_options();
-    if (!arguments.error.empty()) return failed(arguments.error);
-    if (!out || arguments.rest.empty()) return failed("sheet needs mesh files and -o OUT.png");
-    std::vector<asc::Object> objects;
-    for (std::string const& path : arguments.rest)
-        if (!load({"", path}, objects)) return 1;
-    return save_picture(asc::draw_sheet(objects, columns, panel), *out);
+void add_sheet(CLI::App& app, Tool& tool) {
+    CLI::App& command = *app.add_subcommand("sheet", "Draw a contact sheet of all objects, solid and with their lines");
+    asc::SheetOptions& options = tool.sheet;
+    command.add_option("FILE", options.files, "Mesh files")->type_name("")->required();
+    command.add_option("-o", options.out, "The picture")->type_name("OUT.png")->required();
+    auto const columns = [&](std::string const& v) { return read_number(v, 1u, 100u, options.columns); };
+    add_value(command, "--columns", "N", columns, "a number from 1 to 100", "Objects in a row (5)");
+    auto const panel = [&](std::string const& v) { return read_number(v, 20u, 2000u, options.panel); };
+    add_value(command, "--panel", "PIXELS", panel, "a number from 20 to 2000", "Width of a picture (150)");
+    command.callback([&] { tool.status = asc::sheet(options); });
 }
 
 } // namespace
 
-int main(int argc, char* argv[]) {
-    sf::err().rdbuf(nullptr); // its complaints about files would double ours
-    std::vector<std::string> const words(argv + 1, argv + argc);
-    if (words.empty() || words[0] == "--help" || words[0] == "-h") {
-        (words.empty() ? std::cerr : std::cout) << help;
-        return words.empty() ? 1 : 0;
-    }
-    Arguments arguments{{words.begin() + 1, words.end()}, ""};
-    if (words[0] == "convert") return convert(std::move(arguments));
-    if (words[0] == "join") return join(std::move(arguments));
-    if (words[0] == "check") return check(std::move(arguments));
-    if (words[0] == "preview") return preview(std::move(arguments));
-    if (words[0] == "sheet") return sheet(std::move(arguments));
-    return failed("unknown command '" + words[0] + "' (convert, join, check, preview, sheet)");
+int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
+    sf::err().rdbuf(nullptr);     // its complaints about files would double ours
+    CLI::App app("Makes the show's meshes of model files, checks them and draws them.", "asc");
+    set_up(app);
+    app.require_subcommand(0, 1);
+    Tool tool;
+    for (auto const add : {add_convert, add_join, add_check, add_preview, add_sheet}) add(app, tool);
+    if (auto const status = read_arguments(app, argc, argv)) return *status;
+    if (!tool.status) std::cerr << app.help("", CLI::AppFormatMode::All);
+    return tool.status.value_or(1);
 }

@@ -1,6 +1,7 @@
 #include "tools/asc/mesh.h"
 
 #include <algorithm>
+#include <boost/pending/disjoint_sets.hpp>
 #include <cmath>
 #include <numbers>
 
@@ -16,8 +17,6 @@ Vec3 normalised(Vec3 a) {
     double const l = length(a);
     return l < 1e-300 ? Vec3{} : a * (1.0 / l);
 }
-
-double Box::size() const { return std::max({high.x - low.x, high.y - low.y, high.z - low.z}); }
 
 Box box_of(Object const& object) {
     if (object.vertices.empty()) return {};
@@ -44,8 +43,9 @@ Vec3 face_normal(Object const& object, Face const& face) {
 
 double face_height(Object const& object, Face const& face) {
     double longest = 0.0;
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         longest = std::max(longest, length(corner(object, face, i + 1) - corner(object, face, i)));
+    }
     return longest > 0.0 ? length(face_normal(object, face)) / longest : 0.0;
 }
 
@@ -66,13 +66,31 @@ bool degenerate(Object const& object, Face const& face) {
 
 Edges edges_of(Object const& object) {
     Edges edges;
-    for (std::size_t f = 0; f < object.faces.size(); ++f)
+    for (std::size_t f = 0; f < object.faces.size(); ++f) {
         for (int slot = 0; slot < 3; ++slot) {
             int const from = object.faces[f].v[static_cast<std::size_t>(slot)];
             int const to = object.faces[f].v[static_cast<std::size_t>((slot + 1) % 3)];
             edges[std::minmax(from, to)].push_back({f, slot, from < to});
         }
+    }
     return edges;
+}
+
+std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const& edges,
+                                               std::function<bool(Edges::value_type const&)> const& joins) {
+    boost::disjoint_sets_with_storage<> sets(object.faces.size());
+    for (auto const& edge : edges) {
+        if (!joins(edge)) continue;
+        for (Side const& side : edge.second) sets.union_set(edge.second.front().face, side.face);
+    }
+    std::vector<std::vector<std::size_t>> parts;
+    std::map<std::size_t, std::size_t> index; // by the face that stands for the part
+    for (std::size_t f = 0; f < object.faces.size(); ++f) {
+        auto const [at, fresh] = index.emplace(sets.find_set(f), parts.size());
+        if (fresh) parts.emplace_back();
+        parts[at->second].push_back(f);
+    }
+    return parts;
 }
 
 bool closed(Edges const& edges) {
@@ -81,8 +99,9 @@ bool closed(Edges const& edges) {
 
 double volume(Object const& object) {
     double sum = 0.0;
-    for (Face const& face : object.faces)
+    for (Face const& face : object.faces) {
         sum += dot(corner(object, face, 0), cross(corner(object, face, 1), corner(object, face, 2)));
+    }
     return sum / 6.0;
 }
 

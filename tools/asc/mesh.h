@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -42,10 +43,8 @@ struct Object {
 /// The smallest box around all vertices; both corners (0, 0, 0) when there are none.
 struct Box {
     Vec3 low, high;
-    /// The longest side, units.
-    double size() const;
     /// True when the box has no extent along z (within 1e-9): the object is a flat shape across the view.
-    bool flat() const { return high.z - low.z < 1e-9; }
+    bool IsFlat() const { return high.z - low.z < 1e-9; }
 };
 Box box_of(Object const& object);
 
@@ -73,6 +72,11 @@ struct Side {
 /// All sides by their edge (lower index, higher index), in face order within an edge.
 using Edges = std::map<std::pair<int, int>, std::vector<Side>>;
 Edges edges_of(Object const& object);
+
+/// The faces in parts that hang together over the edges that `joins` accepts: their indices, each part in rising order,
+/// parts by their first face.
+std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const& edges,
+                                               std::function<bool(Edges::value_type const&)> const& joins);
 
 /// True when every edge belongs to exactly two faces.
 bool closed(Edges const& edges);

@@ -112,7 +112,7 @@ void look_at_panel(Object const& object, bool flat) {
 
 /// Black faces with white lines, or white ones with the lines shown black and all others grey.
 void draw_panel(Object const& object, kore::AscModel_ptr const& models, bool solid) {
-    bool const flat = box_of(object).flat();
+    bool const flat = box_of(object).IsFlat();
     look_at_panel(object, flat);
     clear_to(1);
     effect::SimpleModel model(models, object.name, "");
@@ -140,7 +140,8 @@ sf::Image smoothed(Target const& target, unsigned int size, Draw draw) {
     for (int i = 0; i < 9; ++i) {
         glMatrixMode(GL_PROJECTION);
         glLoadIdentity();
-        glTranslated(third * (i % 3 - 1), third * (i / 3 - 1), 0);
+        int const right = i % 3 - 1, up = i / 3 - 1;
+        glTranslated(third * right, third * up, 0);
         draw();
         sf::Image const picture = target.framebuffer.Read();
         std::transform(sum.begin(), sum.end(), picture.getPixelsPtr(), sum.begin(), std::plus{});

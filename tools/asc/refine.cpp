@@ -42,74 +42,50 @@ struct Plane {
         u = normalised(cross(aside, n));
         v = cross(n, u);
     }
-    Point flat(Vec3 p) const { return {dot(p - origin, u), dot(p - origin, v)}; }
-    Vec3 solid(Point const& p) const { return origin + u * p.x() + v * p.y(); }
+    Point Flat(Vec3 p) const { return {dot(p - origin, u), dot(p - origin, v)}; }
+    Vec3 Solid(Point const& p) const { return origin + u * p.x() + v * p.y(); }
 };
 
-/// Splits the mesh's faces into facets: the facet's number for each face.
-std::vector<int> facets_of(Object const& object, Edges const& edges, std::set<Edge> const& shown) {
-    std::vector<int> facet(object.faces.size(), -1);
-    int count = 0;
-    for (std::size_t first = 0; first < facet.size(); ++first) {
-        if (facet[first] >= 0) continue;
-        std::vector<std::size_t> open{first};
-        facet[first] = count;
-        while (!open.empty()) {
-            auto const v = object.faces[open.back()].v;
-            open.pop_back();
-            for (std::size_t slot = 0; slot < 3; ++slot) {
-                Edge const edge = std::minmax(v[slot], v[(slot + 1) % 3]);
-                if (shown.contains(edge)) continue;
-                for (Side const& side : edges.at(edge))
-                    if (facet[side.face] < 0) {
-                        facet[side.face] = count;
-                        open.push_back(side.face);
-                    }
-            }
-        }
-        ++count;
-    }
-    return facet;
-}
-
-/// One facet: its outline in the mesh and, after `mesh`, its triangles.
+/// One facet: its outline in the mesh and, after Mesh, its triangles.
 class Facet {
 public:
     Facet(Object const& in, std::vector<std::size_t> const& faces, std::set<Edge> const& shown)
-        : object(in), plane(in.vertices[index(in.faces[faces[0]].v[0])], normal_of(in, faces)) {
-        for (std::size_t f : faces)
+        : object(in), plane(in.vertices[index(in.faces[faces[0]].v[0])], NormalOf(in, faces)) {
+        for (std::size_t f : faces) {
+            auto const& v = in.faces[f].v;
+            auto const corner = [&](std::size_t i) { return plane.Flat(in.vertices[index(v[i])]); };
+            seeds.push_back(CGAL::centroid(corner(0), corner(1), corner(2)));
             for (std::size_t slot = 0; slot < 3; ++slot) {
-                auto const& v = in.faces[f].v;
                 Edge const edge = std::minmax(v[slot], v[(slot + 1) % 3]);
                 if (shown.contains(edge)) outline.push_back(edge);
             }
+        }
     }
 
     /// Triangulates the facet with its outline cut at `cuts`; cuts that the refinement had to add go there too.
-    void mesh(Cuts& cuts, double size, double min_angle) {
-        build(cuts);
-        std::vector<Point> const seeds = holes();
+    void Mesh(Cuts& cuts, double size, double min_angle) {
+        Build(cuts);
         Mesher mesher(triangulation);
-        mesher.set_seeds(seeds.begin(), seeds.end());
+        mesher.set_seeds(seeds.begin(), seeds.end(), true);
         double const s = std::sin(min_angle * std::numbers::pi / 180.0);
         mesher.set_criteria(Criteria(s * s, size));
         mesher.refine_mesh();
-        note_new_cuts(cuts);
-        built_with = cuts_on_outline(cuts);
+        NoteNewCuts(cuts);
+        built_with = CutsOnOutline(cuts);
     }
 
     /// True when the outline has other cuts by now than the triangles were made with.
-    bool stale(Cuts const& cuts) const { return built_with != cuts_on_outline(cuts); }
+    bool IsStale(Cuts const& cuts) const { return built_with != CutsOnOutline(cuts); }
 
     /// Appends the triangles to `out`; vertices are joined later.
-    void append(Object& out) {
+    void Append(Object& out) {
         for (auto f = triangulation.finite_faces_begin(); f != triangulation.finite_faces_end(); ++f) {
             if (!f->is_in_domain()) continue;
             Face face;
             for (int i = 0; i < 3; ++i) {
                 auto const known = solid.find(f->vertex(i));
                 face.v[static_cast<std::size_t>(i)] = static_cast<int>(out.vertices.size());
-                out.vertices.push_back(known != solid.end() ? known->second : plane.solid(f->vertex(i)->point()));
+                out.vertices.push_back(known != solid.end() ? known->second : plane.Solid(f->vertex(i)->point()));
             }
             out.faces.push_back(face);
         }
@@ -118,25 +94,25 @@ public:
 private:
     static std::size_t index(int v) { return static_cast<std::size_t>(v); }
 
-    static Vec3 normal_of(Object const& in, std::vector<std::size_t> const& faces) {
+    static Vec3 NormalOf(Object const& in, std::vector<std::size_t> const& faces) {
         Vec3 sum;
         for (std::size_t f : faces) sum = sum + face_normal(in, in.faces[f]);
         return sum;
     }
 
-    Vec3 at(Edge const& edge, double t) const {
+    Vec3 At(Edge const& edge, double t) const {
         Vec3 const a = object.vertices[index(edge.first)], b = object.vertices[index(edge.second)];
         return t == 0.0 ? a : t == 1.0 ? b : a + (b - a) * t;
     }
 
-    void build(Cuts const& cuts) {
+    void Build(Cuts const& cuts) {
         triangulation.clear();
         solid.clear();
         for (Edge const& edge : outline) {
             Triangulation::Vertex_handle last;
             for (double t : cuts.at(edge)) {
-                Vec3 const p = at(edge, t);
-                auto const vertex = triangulation.insert(plane.flat(p));
+                Vec3 const p = At(edge, t);
+                auto const vertex = triangulation.insert(plane.Flat(p));
                 solid[vertex] = p;
                 if (t > 0.0) triangulation.insert_constraint(last, vertex);
                 last = vertex;
@@ -144,58 +120,24 @@ private:
         }
     }
 
-    /// A point inside every hole of the outline.
-    std::vector<Point> holes() {
-        // How many outlines lie between a face and the outside: odd inside the facet, even outside and in holes.
-        std::map<Triangulation::Face_handle, int> depth;
-        std::vector<Point> seeds;
-        std::vector<Triangulation::Face_handle> border{triangulation.infinite_face()};
-        std::map<Triangulation::Face_handle, int> next{{border[0], 0}};
-        while (!border.empty()) {
-            auto const start = border.back();
-            border.pop_back();
-            if (depth.contains(start)) continue;
-            int const level = next[start];
-            if (level > 0 && level % 2 == 0) seeds.push_back(CGAL::centroid(triangulation.triangle(start)));
-            std::vector<Triangulation::Face_handle> open{start};
-            depth[start] = level;
-            while (!open.empty()) {
-                auto const f = open.back();
-                open.pop_back();
-                for (int i = 0; i < 3; ++i) {
-                    auto const n = f->neighbor(i);
-                    if (depth.contains(n)) continue;
-                    if (triangulation.is_constrained({f, i})) {
-                        border.push_back(n);
-                        next.emplace(n, level + 1);
-                    } else {
-                        depth[n] = level;
-                        open.push_back(n);
-                    }
-                }
-            }
-        }
-        return seeds;
-    }
-
-    void note_new_cuts(Cuts& cuts) {
+    void NoteNewCuts(Cuts& cuts) {
         for (auto e = triangulation.finite_edges_begin(); e != triangulation.finite_edges_end(); ++e) {
             if (!triangulation.is_constrained(*e)) continue;
             for (int i : {1, 2}) {
                 auto const vertex = e->first->vertex((e->second + i) % 3);
                 if (solid.contains(vertex)) continue;
-                auto const [edge, t] = place_on_outline(plane.solid(vertex->point()));
+                auto const [edge, t] = PlaceOnOutline(plane.Solid(vertex->point()));
                 cuts[edge].insert(t);
-                solid[vertex] = at(edge, t);
+                solid[vertex] = At(edge, t);
             }
         }
     }
 
-    std::pair<Edge, double> place_on_outline(Vec3 p) const {
+    std::pair<Edge, double> PlaceOnOutline(Vec3 p) const {
         std::pair<Edge, double> best;
         double nearest = -1.0;
         for (Edge const& edge : outline) {
-            Vec3 const a = at(edge, 0.0), d = at(edge, 1.0) - a;
+            Vec3 const a = At(edge, 0.0), d = At(edge, 1.0) - a;
             double const t = std::clamp(dot(p - a, d) / dot(d, d), 0.0, 1.0);
             double const away = length(a + d * t - p);
             if (nearest < 0.0 || away < nearest) {
@@ -206,7 +148,7 @@ private:
         return best;
     }
 
-    std::vector<std::set<double>> cuts_on_outline(Cuts const& cuts) const {
+    std::vector<std::set<double>> CutsOnOutline(Cuts const& cuts) const {
         std::vector<std::set<double>> all;
         for (Edge const& edge : outline) all.push_back(cuts.at(edge));
         return all;
@@ -215,6 +157,7 @@ private:
     Object const& object;
     Plane plane;
     std::vector<Edge> outline;
+    std::vector<Point> seeds; ///< points inside: the mesher fills the outline from there
     Triangulation triangulation;
     std::map<Triangulation::Vertex_handle, Vec3> solid; ///< the points on the outline, in the mesh
     std::vector<std::set<double>> built_with;
@@ -237,15 +180,9 @@ Cuts even_cuts(Object const& object, std::set<Edge> const& shown, double size) {
 bool refine(Object& object, double size, double min_angle) {
     Edges const edges = edges_of(object);
     std::set<Edge> const shown = creases(object);
-    std::vector<int> const number = facets_of(object, edges, shown);
-    std::vector<std::vector<std::size_t>> members;
-    for (std::size_t f = 0; f < number.size(); ++f) {
-        members.resize(std::max(members.size(), static_cast<std::size_t>(number[f]) + 1));
-        members[static_cast<std::size_t>(number[f])].push_back(f);
-    }
     std::vector<Facet> facets;
-    facets.reserve(members.size());
-    for (auto const& faces : members) facets.emplace_back(object, faces, shown);
+    auto const within_a_facet = [&](auto const& edge) { return !shown.contains(edge.first); };
+    for (auto const& faces : parts_of(object, edges, within_a_facet)) facets.emplace_back(object, faces, shown);
 
     Cuts cuts = even_cuts(object, shown, size);
     // A facet may cut an edge that it shares; then its neighbour is made again with that cut.
@@ -253,14 +190,14 @@ bool refine(Object& object, double size, double min_angle) {
     for (int round = 0; round < most_rounds; ++round) {
         bool changed = false;
         for (Facet& facet : facets) {
-            if (!facet.stale(cuts)) continue;
-            facet.mesh(cuts, size, min_angle);
+            if (!facet.IsStale(cuts)) continue;
+            facet.Mesh(cuts, size, min_angle);
             changed = true;
         }
         if (changed) continue;
         Object result;
         result.name = object.name;
-        for (Facet& facet : facets) facet.append(result);
+        for (Facet& facet : facets) facet.Append(result);
         clean(result);
         object = std::move(result);
         return true;

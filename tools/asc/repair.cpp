@@ -2,6 +2,8 @@
 
 #include "tools/asc/ascfile.h"
 
+#include <CGAL/Polygon_mesh_processing/orient_polygon_soup.h>
+
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -10,48 +12,26 @@ namespace asc {
 
 namespace {
 
-using Cell = std::array<long long, 3>;
-
-/// The vertices kept so far, found by place.
-class Welder {
-public:
-    explicit Welder(double within) : distance(within) {}
-
-    /// The index of the kept vertex at p; p itself is kept when there is none nearer than the distance.
-    int index_of(Vec3 p) {
-        Cell const c = cell_of(p);
-        for (long long i = -1; i <= 1; ++i)
-            for (long long j = -1; j <= 1; ++j)
-                for (long long k = -1; k <= 1; ++k) {
-                    auto const found = cells.find({c[0] + i, c[1] + j, c[2] + k});
-                    if (found == cells.end()) continue;
-                    for (int at : found->second)
-                        if (length(kept[static_cast<std::size_t>(at)] - p) < distance) return at;
-                }
-        kept.push_back(p);
-        int const index = static_cast<int>(kept.size()) - 1;
-        cells[c].push_back(index);
-        return index;
-    }
-    std::vector<Vec3> kept;
-
-private:
-    Cell cell_of(Vec3 p) const {
-        auto const at = [this](double v) { return std::llround(std::floor(v / distance)); };
-        return {at(p.x), at(p.y), at(p.z)};
-    }
-
-    double distance;
-    std::map<Cell, std::vector<int>> cells;
-};
-
+/// Not CGAL's: its merging of points takes equal ones only.
 void weld(Object& object, double distance) {
-    Welder welder(distance);
+    std::vector<Vec3> kept;
+    std::map<Vec3, int> index; // of the kept ones, ordered by x
     std::vector<int> to;
-    for (Vec3 const& p : object.vertices) to.push_back(welder.index_of({rounded(p.x), rounded(p.y), rounded(p.z)}));
-    for (Face& face : object.faces)
+    for (Vec3 const& vertex : object.vertices) {
+        Vec3 const p = {rounded(vertex.x), rounded(vertex.y), rounded(vertex.z)};
+        auto near = index.lower_bound({p.x - distance, p.y - distance, p.z - distance});
+        auto const end = index.upper_bound({p.x + distance, p.y + distance, p.z + distance});
+        while (near != end && length(near->first - p) >= distance) ++near;
+        if (near == end) {
+            near = index.emplace(p, static_cast<int>(kept.size())).first;
+            kept.push_back(p);
+        }
+        to.push_back(near->second);
+    }
+    for (Face& face : object.faces) {
         for (int& v : face.v) v = to[static_cast<std::size_t>(v)];
-    object.vertices = std::move(welder.kept);
+    }
+    object.vertices = std::move(kept);
 }
 
 bool repeats_corner(Face const& face) {
@@ -102,6 +82,7 @@ void dissolve(Object& object, std::size_t thin) {
     object.faces.erase(object.faces.begin() + static_cast<std::ptrdiff_t>(thin));
 }
 
+/// Not CGAL's: it takes faces away only where they have no area at all.
 void dissolve_thin_faces(Object& object) {
     // Each step takes out one thin face or moves it to the neighbour; the bound ends what would go in circles.
     for (std::size_t steps = 4 * object.faces.size() + 16; steps > 0; --steps) {
@@ -117,7 +98,7 @@ void dissolve_thin_faces(Object& object) {
 void drop_loose(Object& object) {
     std::vector<int> to(object.vertices.size(), -1);
     std::vector<Vec3> kept;
-    for (Face& face : object.faces)
+    for (Face& face : object.faces) {
         for (int& v : face.v) {
             int& index = to[static_cast<std::size_t>(v)];
             if (index < 0) {
@@ -126,34 +107,24 @@ void drop_loose(Object& object) {
             }
             v = index;
         }
+    }
     object.vertices = std::move(kept);
 }
 
 void turn_over(Face& face) { std::swap(face.v[1], face.v[2]); }
 
-/// The faces that hang together over edges of two faces, starting at `first`, turned to agree with it.
-std::vector<std::size_t> agree(Object& object, Edges const& edges, std::size_t first, std::vector<bool>& seen) {
-    std::vector<std::size_t> part{first};
-    seen[first] = true;
-    for (std::size_t next = 0; next < part.size(); ++next) {
-        auto const v = object.faces[part[next]].v;
-        for (std::size_t slot = 0; slot < 3; ++slot) {
-            int const from = v[slot], to = v[(slot + 1) % 3];
-            auto const& sides = edges.at(std::minmax(from, to));
-            if (sides.size() != 2) continue;
-            std::size_t const other = sides[0].face == part[next] ? sides[1].face : sides[0].face;
-            if (seen[other]) continue;
-            seen[other] = true;
-            auto const& w = object.faces[other].v;
-            for (std::size_t i = 0; i < 3; ++i)
-                if (w[i] == from && w[(i + 1) % 3] == to) {
-                    turn_over(object.faces[other]);
-                    break;
-                }
-            part.push_back(other);
-        }
-    }
-    return part;
+/// Turns faces so that neighbours agree.
+void orient(Object& object) {
+    struct Visitor : CGAL::Polygon_mesh_processing::Default_orientation_visitor {
+        explicit Visitor(std::vector<Face>& all) : faces(all) {}
+        void polygon_orientation_reversed(std::size_t f) { turn_over(faces[f]); }
+        std::vector<Face>& faces;
+    };
+    Visitor visitor(object.faces);
+    std::vector<Vec3> points = object.vertices;
+    std::vector<std::array<int, 3>> polygons;
+    for (Face const& face : object.faces) polygons.push_back(face.v);
+    CGAL::Polygon_mesh_processing::orient_polygon_soup(points, polygons, CGAL::parameters::visitor(visitor));
 }
 
 /// True when the part should look the other way.
@@ -183,11 +154,10 @@ void clean(Object& object, double distance) {
 }
 
 void wind(Object& object) {
+    orient(object);
     Edges const edges = edges_of(object);
-    std::vector<bool> seen(object.faces.size(), false);
-    for (std::size_t first = 0; first < object.faces.size(); ++first) {
-        if (seen[first]) continue;
-        auto const part = agree(object, edges, first, seen);
+    auto const shared_by_two = [](auto const& edge) { return edge.second.size() == 2; };
+    for (auto const& part : parts_of(object, edges, shared_by_two)) {
         if (!inside_out(object, edges, part)) continue;
         for (std::size_t f : part) turn_over(object.faces[f]);
     }

@@ -21,11 +21,12 @@ std::string printable(std::string text) {
     return text;
 }
 
-std::vector<Quad> quads_of(std::string text) {
+std::vector<Quad> quads_of(std::string const& text) {
+    std::string letters = printable(text);
     constexpr std::size_t most_a_letter = 16;
-    std::vector<Quad> quads(text.size() * most_a_letter);
+    std::vector<Quad> quads(letters.size() * most_a_letter);
     int const count =
-        stb_easy_font_print(0, 0, text.data(), nullptr, quads.data(), static_cast<int>(quads.size() * sizeof(Quad)));
+        stb_easy_font_print(0, 0, letters.data(), nullptr, quads.data(), static_cast<int>(quads.size() * sizeof(Quad)));
     quads.resize(static_cast<std::size_t>(count));
     return quads;
 }
@@ -33,15 +34,14 @@ std::vector<Quad> quads_of(std::string text) {
 } // namespace
 
 void write_text(sf::Image& image, unsigned int left, unsigned int top, unsigned int dot, std::string const& text) {
-    for (Quad const& quad : quads_of(printable(text))) {
-        auto const pixel = [dot](unsigned int from, float dots) {
-            return from + dot * static_cast<unsigned int>(dots);
-        };
-        unsigned int const right = std::min(pixel(left, quad.corners[2].x), image.getSize().x);
-        unsigned int const bottom = std::min(pixel(top, quad.corners[2].y), image.getSize().y);
-        for (unsigned int y = pixel(top, quad.corners[0].y); y < bottom; ++y) {
-            for (unsigned int x = pixel(left, quad.corners[0].x); x < right; ++x)
-                image.setPixel(x, y, sf::Color::Black);
+    auto const pixels = [dot](float dots) { return dot * static_cast<unsigned int>(dots); };
+    for (Quad const& quad : quads_of(text)) {
+        auto const& [x0, y0, z0, color0] = quad.corners[0];
+        auto const& [x1, y1, z1, color1] = quad.corners[2];
+        unsigned int const right = std::min(left + pixels(x1), image.getSize().x);
+        unsigned int const bottom = std::min(top + pixels(y1), image.getSize().y);
+        for (unsigned int y = top + pixels(y0); y < bottom; ++y) {
+            for (unsigned int x = left + pixels(x0); x < right; ++x) image.setPixel(x, y, sf::Color::Black);
         }
     }
 }

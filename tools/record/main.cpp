@@ -44,7 +44,7 @@ Shot make_shot(Timetable const& timetable, RecordOptions const& options, Millibe
 /// Turns the beats asked for into frames, in their order.
 /// @return false, after a line, if one lies outside of the scene or the show
 bool plan_shots(Timetable const& timetable, RecordOptions const& options, std::vector<Shot>& shots) {
-    ScenePlace const show{"", "the show", 0, timetable.back().first + timetable.back().length};
+    ScenePlace const show{"", "the show", 0, timetable.back().first + timetable.back().length, {}};
     ScenePlace const* const scene = options.scene.empty() ? &show : find_scene(timetable, options.scene);
     if (!scene) {
         complain("no scene is called '" + options.scene + "'; there are " + scene_list(timetable));
@@ -105,7 +105,16 @@ bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback
     return options.sheet.empty() || save(make_sheet(cells, options.columns), options.sheet);
 }
 
-int record(RecordOptions const& options) {
+/// The moments of all scenes, in beats of the show.
+std::vector<Millibeats> overview(Timetable const& timetable) {
+    std::vector<Millibeats> beats;
+    for (ScenePlace const& place : timetable) {
+        for (Millibeats const moment : place.moments) beats.push_back(place.Begin() + moment);
+    }
+    return beats;
+}
+
+int record(RecordOptions options) {
     OffscreenContext context;
     if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
     Framebuffer framebuffer;
@@ -123,6 +132,7 @@ int record(RecordOptions const& options) {
         print_list(timetable);
         return 0;
     }
+    if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
@@ -137,7 +147,7 @@ int main(int argc, char** argv) {
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     sf::err().rdbuf(nullptr); // its complaints about files would double ours
     effect::look.standard_wire = options.wire;
-    // The caller's paths are meant from where he stands, not from where the data lies.
+    // The caller's paths are meant from where they stand, not from where the data lies.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);

@@ -36,6 +36,7 @@ void add_options(CLI::App& app, RecordOptions& options) {
     add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
               "a list of beats such as 0.5,3.25 or 0:16:0.5",
               "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
+    app.add_flag("--overview", options.overview, "Five moments of every scene, in the place of --beats");
     add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
               "Write each picture to DIR/beat_012.400.png (a folder that is not there is made)");
     add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet); }, "a path",
@@ -75,7 +76,9 @@ std::optional<int> read_command_line(int argc, char const* const* argv, RecordOp
     add_options(app, options);
     if (auto const status = read_arguments(app, argc, argv)) return status;
     if (options.list) return std::nullopt;
-    if (options.beats.empty()) return complain("no beats to record, see --beats");
+    if (options.beats.empty() && !options.overview) return complain("no beats to record, see --beats");
+    if (!options.beats.empty() && options.overview) return complain("either --beats or --overview");
+    if (!options.scene.empty() && options.overview) return complain("either --scene or --overview");
     if (options.folder.empty() && options.sheet.empty()) return complain("nowhere to write to, see --out and --sheet");
     return std::nullopt;
 }

@@ -18,6 +18,7 @@ struct RecordOptions {
     std::string folder;
     std::string sheet;
     unsigned int columns = 5;
+    bool overview = false; ///< the moments that the running order tells of every scene, in the place of beats
     bool list = false;
 };
 

@@ -1,6 +1,7 @@
 #include "tools/record/timetable.h"
 
 #include <cctype>
+#include <cmath>
 
 namespace {
 
@@ -9,6 +10,8 @@ std::string lower_case(std::string text) {
     return text;
 }
 
+Millibeats to_millibeats(float beats) { return static_cast<Millibeats>(std::lround(beats * one_beat)); }
+
 } // namespace
 
 Timetable make_timetable(kore::Demo& demo, std::span<SceneEntry const> scenes) {
@@ -16,7 +19,8 @@ Timetable make_timetable(kore::Demo& demo, std::span<SceneEntry const> scenes) {
     int first = 0;
     for (std::size_t i = 0; i < scenes.size(); ++i) {
         int const length = demo.GetScenes()[i]->GetLength();
-        timetable.push_back({scenes[i].name, scenes[i].title, first, length});
+        timetable.push_back({scenes[i].name, scenes[i].title, first, length, {}});
+        for (float const beats : scenes[i].moments) timetable.back().moments.push_back(to_millibeats(beats));
         first += length;
     }
     return timetable;

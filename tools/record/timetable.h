@@ -10,10 +10,11 @@
 
 /// One scene's place in the show.
 struct ScenePlace {
-    std::string name;  ///< short, for example "gungirl"
-    std::string title; ///< for example "Gun Girl"
-    int first;         ///< beat of the show
-    int length;        ///< beats
+    std::string name;                ///< short, for example "gungirl"
+    std::string title;               ///< for example "Gun Girl"
+    int first;                       ///< beat of the show
+    int length;                      ///< beats
+    std::vector<Millibeats> moments; ///< of the scene, see SceneEntry
 
     Millibeats Begin() const { return first * one_beat; }
     Millibeats End() const { return (first + length) * one_beat; }

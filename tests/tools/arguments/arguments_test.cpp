@@ -69,7 +69,7 @@ TEST(Arguments, HelpAndVersionGoToStandardOutputWithStatusZero) {
         EXPECT_EQ(help.status, 0);
         EXPECT_EQ(help.error, "");
         EXPECT_THAT(help.out, HasSubstr("Does nothing.\n"));
-        EXPECT_THAT(help.out, HasSubstr("\n  --value TEXT        Anything but one text\n"));
+        EXPECT_THAT(help.out, HasSubstr("\n  --value TEXT          Anything but one text\n"));
     }
     Outcome const version = read({"--version"});
     EXPECT_EQ(version.status, 0);

@@ -80,6 +80,9 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{},                          "no beats to record, see --beats"},
         {{"--out", "x"},              "no beats to record, see --beats"},
         {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"},
+        {{"--overview", "--beats", "1"}, "either --beats or --overview"},
+        {{"--overview", "--scene", "x"}, "either --scene or --overview"},
+        {{"--overview"},              "nowhere to write to, see --out and --sheet"},
         {{"--fast"},                  "The following argument was not expected: --fast"},
         {{"12.4"},                    "The following argument was not expected: 12.4"},
         {{"--beats"},                 "--beats: 1 required LIST missing"},
@@ -120,8 +123,9 @@ TEST(RecordOptions, HelpNamesEveryOption) {
         Outcome const outcome = read({option, "--nonsense"});
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.error, "");
-        for (char const* const name : {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frames",
-                                       "--size WxH", "--samples N", "--columns N", "--wire", "--no-wire", "--list"}) {
+        for (char const* const name :
+             {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frames", "--size WxH", "--samples N",
+              "--columns N", "--overview", "--wire", "--no-wire", "--list"}) {
             EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + name));
         }
     }

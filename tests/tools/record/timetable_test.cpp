@@ -11,7 +11,10 @@ public:
     void UpdateLogic(kore::StateData const&) override {}
 };
 
-constexpr SceneEntry entries[] = {{"first", "The First", nullptr}, {"second", "Second", nullptr}};
+constexpr SceneEntry entries[] = {
+    {"first", "The First", nullptr, {0, 0.5f, 2.125f, 3, 7.999f}},
+    {"second", "Second", nullptr, {1, 2, 3, 4, 5}},
+};
 
 Timetable two_scenes() {
     kore::Demo demo(1);
@@ -30,6 +33,7 @@ TEST(Timetable, PutsTheScenesOneAfterTheOther) {
     ASSERT_EQ(timetable.size(), 2u);
     EXPECT_EQ(timetable[0].name, "first");
     EXPECT_EQ(timetable[0].title, "The First");
+    EXPECT_EQ(timetable[0].moments, (std::vector<Millibeats>{0, 500, 2125, 3000, 7999}));
     EXPECT_EQ(timetable[0].Begin(), 0);
     EXPECT_EQ(timetable[0].End(), 8000);
     EXPECT_EQ(timetable[1].Begin(), 8000);

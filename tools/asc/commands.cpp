@@ -1,0 +1,154 @@
+#include "tools/asc/commands.h"
+
+#include "tools/asc/ascfile.h"
+#include "tools/asc/check.h"
+#include "tools/asc/creases.h"
+#include "tools/asc/import.h"
+#include "tools/asc/refine.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+
+namespace asc {
+
+namespace {
+
+/// @return 1, the exit status after a fault
+int failed(std::string const& text) {
+    std::cerr << "asc: " << text << '\n';
+    return 1;
+}
+
+struct Input {
+    std::string name, path;
+};
+
+Input input_of(std::string const& argument) {
+    std::size_t const equals = argument.find('=');
+    if (equals == std::string::npos) return {"", argument};
+    return {argument.substr(0, equals), argument.substr(equals + 1)};
+}
+
+int save_objects(std::vector<Object> const& objects, std::string const& out) {
+    for (Object const& object : objects) {
+        if (object.name.empty() || object.name.find_first_of("\"\r\n") != std::string::npos) {
+            return failed("'" + object.name + "' cannot be the name of an object");
+        }
+    }
+    std::string const text = write(objects);
+    if (auto const faults = faults_of(parse(text), false); !faults.empty()) {
+        return failed(out + " would be faulty: " + faults.front().text);
+    }
+    return write_text(out, text) ? 0 : failed("cannot write " + out);
+}
+
+/// Adds the objects of a mesh file.
+/// @return false after one line about what is wrong
+bool load(Input const& input, std::vector<Object>& objects) {
+    std::string text;
+    if (!read_text(input.path, text)) {
+        failed("cannot read " + input.path);
+        return false;
+    }
+    ReadFile file = parse(text);
+    if (!file.faults.empty()) {
+        failed(input.path + ":" + std::to_string(file.faults.front().line) + ": " + file.faults.front().text);
+        return false;
+    }
+    if (!input.name.empty() && file.objects.size() != 1) {
+        failed(input.path + " holds " + std::to_string(file.objects.size()) + " objects, only one can be named");
+        return false;
+    }
+    for (ReadObject& read : file.objects) {
+        if (!input.name.empty()) read.object.name = input.name;
+        objects.push_back(std::move(read.object));
+    }
+    return true;
+}
+
+bool load_all(std::vector<std::string> const& inputs, std::vector<Object>& objects) {
+    return std::ranges::all_of(inputs, [&](std::string const& input) { return load(input_of(input), objects); });
+}
+
+int save_picture(std::optional<sf::Image> const& picture, std::string const& out) {
+    if (!picture) return failed("OpenGL cannot draw such a picture off-screen");
+    return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
+}
+
+/// Makes an object as it was read one of the show's.
+/// @return "", or what is wrong
+std::string make_ready(Object& object, ConvertOptions const& options) {
+    if (options.flat) keep_lowest_plane(object);
+    if (options.centre) centre(object, *options.centre);
+    clean(object, options.weld);
+    wind(object);
+    if (object.faces.empty()) return "nothing is left of object '" + object.name + "'";
+    if (options.size && !refine(object, *options.size, options.min_angle)) {
+        return "the facets of object '" + object.name + "' do not come to fit each other";
+    }
+    flag_creases(object);
+    return "";
+}
+
+} // namespace
+
+int convert(ConvertOptions const& options) {
+    std::vector<Object> objects;
+    for (std::string const& argument : options.inputs) {
+        Input const input = input_of(argument);
+        std::string error;
+        for (Object& object : import_model(input.path, input.name, error)) {
+            if (error.empty()) error = make_ready(object, options);
+            objects.push_back(std::move(object));
+        }
+        if (!error.empty()) return failed(input.path + ": " + error);
+    }
+    return save_objects(objects, options.out);
+}
+
+int join(JoinOptions const& options) {
+    std::vector<Object> objects;
+    return load_all(options.inputs, objects) ? save_objects(objects, options.out) : 1;
+}
+
+int check(CheckOptions const& options) {
+    int status = 0;
+    for (std::string const& path : options.files) {
+        std::string text;
+        if (!read_text(path, text)) {
+            status = failed("cannot read " + path);
+            continue;
+        }
+        ReadFile const file = parse(text);
+        for (ReadObject const& read : file.objects) std::cout << path << ": " << summary(read.object) << '\n';
+        for (Fault const& fault : faults_of(file, options.shatter)) {
+            std::cout << path << ':' << fault.line << ": " << fault.text << '\n';
+            status = 1;
+        }
+    }
+    return status;
+}
+
+int preview(PreviewOptions const& options) {
+    std::vector<Object> objects;
+    if (!load({"", options.file}, objects)) return 1;
+    if (!options.object.empty()) {
+        std::erase_if(objects, [&](Object const& object) { return object.name != options.object; });
+        if (objects.empty()) return failed(options.file + " holds no object '" + options.object + "'");
+    }
+    std::string out = options.out;
+    if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
+    if (!options.camera) return save_picture(draw_sheet(objects, 2, 380), out);
+    View view = options.view;
+    view.camera = *options.camera;
+    return save_picture(draw_view(objects, view, 1024, 768), out);
+}
+
+int sheet(SheetOptions const& options) {
+    std::vector<Object> objects;
+    if (!load_all(options.files, objects)) return 1;
+    return save_picture(draw_sheet(objects, options.columns, options.panel), options.out);
+}
+
+} // namespace asc

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tools/asc/picture.h"
+#include "tools/asc/repair.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace asc {
+
+// What the commands are asked to do; see the help text in main.cpp. A path of input may stand behind a name: NAME=PATH.
+
+struct ConvertOptions {
+    std::vector<std::string> inputs;
+    std::string out;
+    bool flat = false;
+    double weld = weld_distance;
+    std::optional<Vec3> centre;
+    std::optional<double> size; ///< of the triangles to refine to
+    double min_angle = 20.0;    ///< of these, degrees
+};
+
+struct JoinOptions {
+    std::vector<std::string> inputs;
+    std::string out;
+};
+
+struct CheckOptions {
+    std::vector<std::string> files;
+    bool shatter = false;
+};
+
+struct PreviewOptions {
+    std::string file;
+    std::string out;    ///< "" for the file's name with .png
+    std::string object; ///< "" for all
+    std::optional<Vec3> camera;
+    View view; ///< what it says of the camera does not count
+};
+
+struct SheetOptions {
+    std::vector<std::string> files;
+    std::string out;
+    unsigned int columns = 5;
+    unsigned int panel = 150; ///< pixels
+};
+
+/// Each prints one line on standard error about what it cannot do.
+/// @return the exit status: 0, or 1 after a fault
+int convert(ConvertOptions const& options);
+int join(JoinOptions const& options);
+int check(CheckOptions const& options);
+int preview(PreviewOptions const& options);
+int sheet(SheetOptions const& options);
+
+} // namespace asc
