@@ -30,7 +30,7 @@ bool randr_is_at_least(int wanted_major, int wanted_minor) {
 
 std::string name_of(Atom atom) {
     char* const name = XGetAtomName(display_connection(), atom);
-    std::string const text = name ? name : "";
+    std::string text = name ? name : "";
     if (name) XFree(name);
     return text;
 }

@@ -72,7 +72,7 @@ std::optional<DesktopWindow> open_window(sf::Window& window, Settings const& set
 
 void tell_of_slow_drawing() {
     if (video_fsaa_level == 0) return;
-    auto const* const renderer = reinterpret_cast<char const*>(glGetString(GL_RENDERER));
+    auto const* const renderer = reinterpret_cast<char const*>(glGetString(GL_RENDERER)); // NOLINT(*-reinterpret-cast)
     std::string_view const name = renderer ? renderer : "";
     for (std::string_view const software : {"llvmpipe", "softpipe", "swrast", "SWR"}) {
         if (name.find(software) == std::string_view::npos) continue;

@@ -28,7 +28,8 @@ std::vector<unsigned long> property(Window window, char const* name) {
                                           &format, &count, &left, &data);
     std::unique_ptr<unsigned char, int (*)(void*)> const owner(data, XFree);
     if (status != Success || format != 32 || !data) return {};
-    auto const* const items = reinterpret_cast<unsigned long const*>(data); // Xlib hands out longs, whatever their size
+    // Xlib hands out longs, whatever their size.
+    auto const* const items = reinterpret_cast<unsigned long const*>(data); // NOLINT(*-reinterpret-cast)
     return {items, items + count};
 }
 
