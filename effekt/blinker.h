@@ -25,10 +25,10 @@ public:
     /// @param length  length of the window, seconds; 0 never fires
     void AddEntry(float start, float length, BlinkerType type, int value);
 
-    /// Deliberate: kept, and read by nothing.
+    /// Deliberate: stored and never read.
     void SetFreq(int const& freq) { myFreq = freq; }
 
-    /// Sends one event to every target that has started; the others miss it for good.
+    /// Sends one event to every target that has started; the others never get it.
     void Update(BlinkerType const& type, int const& value);
 
     /// Fires what is due, in the order of the entries.

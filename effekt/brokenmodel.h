@@ -10,8 +10,8 @@
 
 namespace effect {
 
-/// One named model drawn triangle by triangle, so that it can fly apart, or come together out of its pieces: every
-/// piece has a straight way to go and turns of its own, drawn once from a seeded generator.
+/// One named model drawn triangle by triangle, so that it can fly apart, or come together from its pieces: every piece
+/// has its own straight path and turn, drawn once from a seeded generator.
 class BrokenModel final : public kore::Entity, public BlinkingWireframe {
 public:
     /// What one piece does per unit of the break amount (a second).
@@ -42,9 +42,9 @@ public:
         float s(float f) override;
     };
 
-    /// Reads the model's file into the per-triangle store, every time anew, reseeds the process-wide generator and
-    /// draws the values of a DefaultSet: two broken models of one mesh fall apart alike. A model that cannot be had
-    /// ends the program.
+    /// Reads the model's file into the per-triangle store, every time, reseeds the process-wide generator and draws the
+    /// values of a DefaultSet: two broken models of one mesh fall apart alike. A model that cannot be loaded ends the
+    /// program.
     /// @param model_name  object name in the library
     /// @param file_name   file to load; "" for the object name with ".asc"
     BrokenModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name);
@@ -53,23 +53,23 @@ public:
     void UpdateLogic(kore::StateData const& state) override;
     void InternalDraw() override;
 
-    /// Besides Invert and Strobe: Wireframe and Break, which starts a run, or starts it again.
+    /// Besides Invert and Strobe: Wireframe and Break, which starts a run, or restarts it.
     void Blink(BlinkerType const& type, int const& value) override;
 
-    /// @param time  seconds that closing takes, and so the amount at which scattered pieces wait; at first -1
+    /// @param time  seconds that closing takes, and so the amount at which scattered pieces wait; initially -1
     void SetTransitionTime(float const& time) { myTransitionTime = time; }
 
-    /// @param direction  below 0 (at first -1): Break breaks apart; 0 or above: Break closes; 1 or above: and the
+    /// @param direction  below 0 (initially -1): Break breaks apart; 0 or above: Break closes; 1 or above: also, the
     ///                   pieces are drawn scattered while they wait
     void SetDirection(int direction) { myDirection = direction; }
 
     /// Draws the outlines even while the wireframe is off.
     void KeepWireframe(bool keep) { myKeepWireframe = keep; }
 
-    /// Scale along x, y, z; at first 1.
+    /// Scale along x, y, z; initially 1.
     void SetScale(kore::Vector3<float> const& scale) { myScale = scale; }
 
-    /// Draws every piece's values again, going on with the generator's sequence.
+    /// Draws every piece's values again, continuing the generator's sequence.
     /// @param set  used at once and not kept; must not be null
     void ResetValues(ValueSetInterface* set);
 
@@ -83,7 +83,7 @@ private:
     std::shared_ptr<kore::SingleAscModelFull> myModel;
     float myBreakStart = 0; ///< seconds of scene time
     State myState = Idle;
-    float myAmount = 0;           ///< how far along their way the pieces are, seconds
+    float myAmount = 0;           ///< how far along their path the pieces are, seconds
     std::vector<Values> myValues; ///< one per triangle, in face order
     int myDirection = -1;
     float myTransitionTime = -1; ///< seconds

@@ -27,7 +27,7 @@ unsigned int FftVisualizer::ReverseBits(unsigned int i) {
 }
 
 void FftVisualizer::Process(char const* data, unsigned int length) {
-    // Deliberate: a throttle for diagnostics that nothing prints any more.
+    // Deliberate: a throttle for diagnostics that are no longer printed.
     static unsigned int calls = 0;
     if (++calls > 1000) calls = 0;
 

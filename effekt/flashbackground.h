@@ -28,10 +28,10 @@ public:
     /// Deliberate: only translates, does not rotate and leaves the translation on the matrix.
     void Draw() override;
 
-    /// Besides Invert and Strobe: Flip. One that comes during a run starts the run again.
+    /// Besides Invert and Strobe: Flip. One during a run restarts the run.
     void Blink(BlinkerType const& type, int const& value) override;
 
-    /// @param duration  of a flip, seconds; at first 0.5
+    /// @param duration  of a flip, seconds; initially 0.5
     void SetSpeed(float duration) { myDuration = duration; }
 
 private:

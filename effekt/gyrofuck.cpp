@@ -23,7 +23,7 @@ void GyroFuck::UpdateLogic(kore::StateData const& state) {
         myLastSwap = state.time;
         myPhase = myPhase != 0 ? 0 : 1;
     }
-    // Deliberate: not clamped, so a breath longer than its period goes on beyond both ends.
+    // Deliberate: not clamped, so a breath longer than its period goes beyond both ends.
     float const p = 1 - (state.time - myLastSwap) / myPeriod;
     float const falling = range * p + smallest;
     float const rising = (smallest + range) - range * p;

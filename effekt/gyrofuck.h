@@ -10,7 +10,7 @@ namespace effect {
 /// roles on every even beat.
 class GyroFuck final : public kore::Entity, public BlinkingWireframe {
 public:
-    /// Loads "donut2.asc" into the library and takes its object "donut2"; where that fails nothing is drawn.
+    /// Loads "donut2.asc" into the library and takes its object "donut2"; if that fails nothing is drawn.
     explicit GyroFuck(kore::AscModel_ptr models);
 
     char const* Name() override { return "GyroFuck"; }

@@ -7,7 +7,7 @@
 
 namespace effect {
 
-/// Finds the two display lists of a model in the library, and loads its file where the library does not hold both.
+/// Finds the two display lists of a model in the library, and loads its file if the library does not hold both.
 /// A file that cannot be loaded, or does not hold the model, ends the program with an assertion report.
 /// @param model_name   object name
 /// @param file_name    file to load; "" stands for the object name with ".asc"

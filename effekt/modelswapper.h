@@ -12,19 +12,18 @@ namespace effect {
 class ModelSwapper final : public kore::Entity, public Blinking {
 public:
     /// @param name  of the file (without ".asc") and of the object in it. A file that cannot be loaded ends the
-    /// program;
-    ///              where it lacks the object nothing is drawn.
+    ///              program; if it lacks the object nothing is drawn.
     explicit ModelSwapper(std::string const& name);
 
     char const* Name() override { return "ModelSwapper"; }
 
-    /// Counts the strobe down, and no more.
+    /// Only counts the strobe down.
     void UpdateLogic(kore::StateData const&) override { CountDown(); }
 
     /// Deliberate: draws faces and lines whatever the two drawing flags say.
     void InternalDraw() override;
 
-    /// Deliberate: both are kept and read by nothing.
+    /// Deliberate: both are stored and never read.
     void SetTransitionTime(float const& time) { myTransitionTime = time; }
     void SetTransitionSpeed(float const& speed) { myTransitionSpeed = speed; }
 

@@ -11,7 +11,7 @@ namespace {
 /// Maps a wave from [-1, 1] to 1 to 255.
 unsigned char wave_byte(double wave) { return static_cast<unsigned char>(static_cast<int>(wave * 127 + 128)); }
 
-/// Where a window starts along one side of a table.
+/// Start of a window along one side of a table.
 int window_start(double wave, int half) { return static_cast<int>(wave * (half - 1)) + half; }
 
 } // namespace

@@ -20,7 +20,7 @@ public:
     void UpdatePalette(double t);
 
     /// @param index  0 to 255
-    /// @return 3 bytes red, green, blue, of which only the first is ever other than 0
+    /// @return 3 bytes red, green, blue; only the first is ever non-zero
     unsigned char const* GetPaletteEntry(int index) const { return palette[index]; }
 
 private:

@@ -14,12 +14,12 @@ namespace effect {
 ///
 /// Deliberate: the whole wire is issued between one glBegin and its glEnd. What that draws is the driver's choice. By
 /// the OpenGL standard (1.1, sections 2.5, 2.6.3, 5.4) the first torus's triangles are cut up four corners at a time
-/// and its two pops take the entity's matrices away, the other 98 tori stand as they should, and what the scene draws
-/// after the wire stands fixed before the viewer. Mesa drops every list in the bracket instead, and shows nothing. With
-/// Look::standard_wire it issues only the calls that take effect by the standard.
+/// and its two pops take the entity's matrices away, the other 98 tori are where they should be, and what the scene
+/// draws after the wire is fixed in front of the viewer. Mesa drops every list in the bracket and shows nothing. With
+/// Look::standard_wire it issues only the calls that have an effect by the standard.
 class PulseWire final : public kore::Entity, public BlinkingWireframe {
 public:
-    /// Loads "torus2.asc" into the library and takes its object "torus2"; where that fails nothing is drawn.
+    /// Loads "torus2.asc" into the library and takes its object "torus2"; if that fails nothing is drawn.
     /// @param spline  the path, which must hold a point; points added later still count
     PulseWire(std::shared_ptr<kore::CatmullRom> spline, kore::AscModel_ptr models);
 
@@ -38,7 +38,7 @@ private:
     void DrawTorus(int i);
 
     std::shared_ptr<kore::CatmullRom> mySpline;
-    /// Deliberate: the samples at construction are kept, and drawing evaluates the spline anew.
+    /// Deliberate: the samples are stored at construction, and drawing evaluates the spline again.
     std::vector<kore::Vector3<float>> myPoints;
     unsigned int myModel = 0;     ///< display list of the faces
     unsigned int myWireframe = 0; ///< display list of the edges

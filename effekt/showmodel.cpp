@@ -6,7 +6,7 @@ namespace effect {
 
 namespace {
 
-/// @return f, at most 1 (and not a number stays so)
+/// @return f, at most 1; not a number stays not a number
 float at_most_one(float f) { return f >= 1 ? 1.0f : f; }
 
 } // namespace

@@ -8,12 +8,12 @@
 
 namespace effect {
 
-/// One named model, solid, as a wireframe or both: at first white faces with black lines.
+/// One named model, solid, as a wireframe or both: initially white faces with black lines.
 class SimpleModel final : public kore::Entity, public BlinkingWireframe {
 public:
     /// @param model_name  object name in the library
     /// @param file_name   file to load when the library does not hold it; "" for the object name with ".asc".
-    ///                    A model that cannot be had ends the program.
+    ///                    A model that cannot be loaded ends the program.
     SimpleModel(kore::AscModel_ptr models, std::string const& model_name, std::string const& file_name);
 
     char const* Name() override { return "SimpleModel"; }
@@ -23,11 +23,11 @@ public:
     /// Besides Invert and Strobe: Wireframe and Solid.
     void Blink(BlinkerType const& type, int const& value) override;
 
-    /// Deliberate: both are kept and read by nothing.
+    /// Deliberate: both are stored and never read.
     void SetTransitionTime(float const& time) { myTransitionTime = time; }
     void SetTransitionSpeed(float const& speed) { myTransitionSpeed = speed; }
 
-    /// Scale along x, y, z; at first 1.
+    /// Scale along x, y, z; initially 1.
     void SetScale(kore::Vector3<float> const& scale) { myScale = scale; }
 
 private:

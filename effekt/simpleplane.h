@@ -5,7 +5,7 @@
 
 namespace effect {
 
-/// A flat rectangle about its origin, in the plane z = 0, in one colour: at first white.
+/// A flat rectangle about its origin, in the plane z = 0, in one colour: initially white.
 class SimplePlane final : public kore::Entity {
 public:
     /// Compiles the rectangle; needs a current OpenGL context.

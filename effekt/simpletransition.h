@@ -5,7 +5,7 @@
 
 namespace effect {
 
-/// Fades a large square before the viewer in or out, as a transition of the whole picture.
+/// Fades a large square in front of the viewer in or out, as a transition of the whole picture.
 class SimpleTransition final : public kore::Entity {
 public:
     /// Compiles the square; needs a current OpenGL context.
@@ -20,13 +20,13 @@ public:
     /// InternalDraw without any transform.
     void Draw() override { InternalDraw(); }
 
-    /// Colour of the square, at first white; its alpha is the fade's.
+    /// Colour of the square, initially white; its alpha is the fade's.
     void SetColor(kore::Color<float> const& color) { myColor = color; }
 
-    /// @param direction  1 fades in, anything else (at first 0) fades out
+    /// @param direction  1 fades in, anything else (initially 0) fades out
     void SetDirection(int direction) { myDirection = direction; }
 
-    /// @param time  length of the fade, seconds; at first 1
+    /// @param time  length of the fade, seconds; initially 1
     void SetTime(float const& time) { myTime = time; }
 
 private:

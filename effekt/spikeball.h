@@ -5,7 +5,7 @@
 
 namespace effect {
 
-/// A place-holder: a cube of edge 1 in the main colour.
+/// A placeholder: a cube of edge 1 in the main colour.
 /// Deliberate: its logic does nothing, so it never reports itself started, a Blinker never reaches it, and a strobe
 /// sent by a direct Blink stays where it is.
 class SpikeBall final : public kore::Entity, public Blinking {

@@ -24,7 +24,7 @@ bool Texture::Init(int w, int h) {
 }
 
 void Texture::SetTexture(texture_filter f) {
-    // OpenGL reads three bytes a texel, so each grey value is handed over three times.
+    // OpenGL reads three bytes a texel, so each grey value is passed three times.
     std::vector<unsigned char> rgb;
     rgb.reserve(static_cast<std::size_t>(size) * 3);
     for (int i = 0; i < size; ++i) rgb.insert(rgb.end(), 3, pixels[static_cast<std::size_t>(i)]);

@@ -11,7 +11,7 @@ struct Corner {
     float z;
 };
 
-// Inline, for there are 15876 of them in a frame.
+// Inline: there are 15876 of them in a frame.
 [[gnu::always_inline]] inline void triangle(GLenum primitive, Corner const& a, Corner const& b, Corner const& c) {
     glBegin(primitive);
     glVertex3f(a.x, a.y, a.z);

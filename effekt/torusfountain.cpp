@@ -4,7 +4,7 @@ namespace effect {
 
 namespace {
 
-/// Turns round at the end of a stroke.
+/// Reverses at the end of a stroke.
 /// @return how far along its stroke it is: 0 at the bottom (or smallest), 1 at the top (or largest)
 float stroke(int& direction, float& turn_time, float period, float t) {
     if (t - turn_time >= period) {
@@ -22,7 +22,7 @@ TorusFountain::TorusFountain(kore::AscModel_ptr models) {
     models->ModelByName("torus2", myModel);
     models->WfByName("torus2", myWireframe);
 
-    // Three start upwards, three downwards, each group staggered alike.
+    // Three start upwards, three downwards; both groups are staggered alike.
     for (std::size_t i = 0; i < drawn; ++i) {
         auto const place = static_cast<float>(i % 3);
         sizepos& torus = myTori[i];

@@ -21,7 +21,7 @@ public:
         float size = 0;           ///< scale, from 1 to 9
     };
 
-    /// Loads "torus2.asc" into the library and takes its object "torus2"; where that fails nothing is drawn.
+    /// Loads "torus2.asc" into the library and takes its object "torus2"; if that fails nothing is drawn.
     explicit TorusFountain(kore::AscModel_ptr models);
 
     char const* Name() override { return "TorusFountain"; }

@@ -11,14 +11,14 @@
 
 namespace fuzz {
 
-/// Ends the run as a finding, with one line that says what does not hold.
+/// Ends the run as a finding, with one line naming what does not hold.
 inline void require(bool holds, char const* what) {
     if (holds) return;
     std::fprintf(stderr, "does not hold: %s\n", what);
     std::abort();
 }
 
-/// Swallows standard output as long as it lives: a million error lines say nothing.
+/// Discards standard output during its lifetime: a million error lines are of no use.
 class Quiet {
 public:
     Quiet() : before(std::cout.rdbuf(&nothing)) {}
@@ -43,7 +43,7 @@ public:
     MemoryFile(MemoryFile const&) = delete;
     MemoryFile& operator=(MemoryFile const&) = delete;
 
-    /// Replaces what the file holds.
+    /// Replaces the content of the file.
     /// @return its path
     std::string Write(void const* bytes, std::size_t size) const {
         require(ftruncate(file, 0) == 0, "the file can be emptied");

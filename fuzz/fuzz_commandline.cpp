@@ -27,7 +27,7 @@ void reset_settings() {
 }
 
 void require_sound_settings(std::optional<int> status) {
-    fuzz::require(!status || *status == 0 || *status == 1, "the status is nothing, 0 or 1");
+    fuzz::require(!status || *status == 0 || *status == 1, "the status is unset, 0 or 1");
     fuzz::require(video_fullscreen == sf::Style::Fullscreen || video_fullscreen == sf::Style::Close,
                   "the window has one of two styles");
     fuzz::require(video_fsaa_level == 0 || video_fsaa_level == default_samples, "there are 4 samples or none");

@@ -58,7 +58,7 @@ void compare_face(std::string const& line) {
     fuzz::require(same_bits(read, expected), "a plain face line gives what the pattern gives");
 }
 
-/// The words of the text, put as numbers into lines that are plain but for them.
+/// The words of the text, as the numbers of otherwise plain lines.
 void compare_numbers(std::string const& text) {
     std::istringstream words(text);
     std::array<std::string, 6> w;
@@ -67,10 +67,10 @@ void compare_numbers(std::string const& text) {
     compare_face("Face 0:    A:" + w[0] + " B:" + w[1] + " C:" + w[2] + " AB:" + w[3] + " BC:" + w[4] + " CA:" + w[5]);
 }
 
-/// The number halfway between two neighbouring floats, and what it becomes when it is cut to so many decimals: where
-/// rounding twice, to double and to float, goes wrong. Chance alone would hardly ever write such a number.
+/// The number halfway between two neighbouring floats, also cut to some number of decimals: where rounding twice, to
+/// double and to float, goes wrong. Chance alone would hardly ever produce such a number.
 void compare_midpoints(std::string const& text) {
-    std::size_t const bits = std::hash<std::string>()(text); // most inputs begin alike
+    std::size_t const bits = std::hash<std::string>()(text); // most inputs start alike
     constexpr int mantissa_bits = 23;
     constexpr std::size_t exponents = 10; // numbers from 1 to 1024, as in meshes
     auto const mantissa = static_cast<float>(bits & ((std::size_t{1} << mantissa_bits) - 1));
@@ -90,7 +90,7 @@ void compare_midpoints(std::string const& text) {
 
 bool fits_int(long long n) { return n >= std::numeric_limits<int>::min() && n <= std::numeric_limits<int>::max(); }
 
-/// Whether a line of the text has counts that no int holds; what the plain reader makes of them is not defined.
+/// Whether a line of the text has counts that do not fit an int; for the plain reader they are undefined.
 bool counts_overflow(std::string const& text) {
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
@@ -101,7 +101,7 @@ bool counts_overflow(std::string const& text) {
     return false;
 }
 
-/// Whether a line of the text names a vertex that is beyond the show's limit; the plain reader has none.
+/// Whether a line of the text names a vertex beyond the show's limit; the plain reader has no limit.
 bool corners_beyond(std::string const& text) {
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
@@ -164,7 +164,7 @@ void compare_file(std::string const& text) {
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     std::string const text(data, data + size);
-    constexpr int most_lines = 100; // the file's own reader sees the rest
+    constexpr int most_lines = 100; // the reader of whole files sees the rest
     std::istringstream lines(text);
     std::string line;
     for (int n = 0; n < most_lines && std::getline(lines, line); ++n) {

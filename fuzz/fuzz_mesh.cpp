@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-/// Freed memory is worth keeping for long only where it is small: each reader has a table of 3.6 MB.
+/// Keeping freed memory pays only for small blocks: each reader has a table of 3.6 MB.
 extern "C" char const* __asan_default_options() { return "quarantine_size_mb=16"; }
 
 namespace {

@@ -1,6 +1,6 @@
 // A stand-in for OpenGL that draws nothing and ends the run at the first call that a driver would refuse: lists within
-// lists, vertices outside of a primitive, names never generated. Every float that is handed over is read.
-// What meshes have no business with does nothing (tests/support/glnone.cpp).
+// lists, vertices outside of a primitive, names never generated. Every float that is passed is read.
+// Calls that meshes do not use do nothing (tests/support/glnone.cpp).
 
 #include "fuzz/strictgl.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-std::vector<bool> lists(1); // by name, whether compiled; no list has the name 0
+std::vector<bool> lists(1); // whether compiled, by name; no list has the name 0
 GLuint open_list = 0;
 bool in_primitive = false;
 int vertices = 0; // of the open primitive

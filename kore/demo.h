@@ -16,7 +16,7 @@ public:
     void AddScene(std::shared_ptr<Scene> scene);
     std::vector<std::shared_ptr<Scene>>& GetScenes() { return scenes; }
 
-    /// Switches scenes where the beat says so and updates the current one; does nothing once finished.
+    /// Switches scenes on their beats and updates the current one; does nothing once finished.
     /// @param state  time and beats of the whole show
     void UpdateLogic(StateData const& state);
 
@@ -28,7 +28,7 @@ public:
     bool GetFinished() const { return finished; }
 
     /// Asks for the next or the previous scene; granted on the next frame that counts a beat. Past either end the show
-    /// goes on with the first scene.
+    /// continues with the first scene.
     void SkipSceneFw();
     void SkipSceneBw();
 

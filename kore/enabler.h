@@ -43,8 +43,7 @@ private:
     std::vector<std::shared_ptr<Mutator>> mutators;
     int start_beat;
     int my_length;
-    [[maybe_unused]] float
-        start_time; ///< start of the window, seconds. Deliberate: kept for scenes to look at, nothing reads it
+    [[maybe_unused]] float start_time; ///< start of the window, seconds. Deliberate: stored for scenes, and never read
     bool relative_to_camera;
     bool drawing_enabled = false;
 };

@@ -8,7 +8,7 @@ class Music;
 
 namespace kore {
 
-/// Streams the music with SFML, on a thread of the library's own. Without a sound device it checks the file and stays
+/// Streams the music with SFML, on a thread of the library's own. Without a sound device it checks the file and remains
 /// silent.
 class MusicSFML final : public Music {
 public:
@@ -20,7 +20,7 @@ public:
     /// Deliberate: a file at another rate is reported as a failure, stays open and plays at its own rate.
     bool LoadFromFile(std::string const& file, int const& frequency) override;
 
-    /// Deliberate: the visualizer is kept and never fed.
+    /// Deliberate: the visualizer is stored and never fed.
     void SetVisualizer(std::shared_ptr<MusicVisualizer> v) override;
 
     void Play() override;
@@ -32,7 +32,7 @@ public:
     /// Deliberate: always true, also when no file could be opened.
     bool Ready() override { return true; }
 
-    /// Lets go of the visualizer.
+    /// Releases the visualizer.
     void Cleanup();
 
     /// Playing position, seconds; 0 while silent.

@@ -7,7 +7,7 @@ namespace kore {
 
 class MusicVisualizer;
 
-/// The player of the show's one piece of music.
+/// Plays the show's one piece of music.
 class Music {
 public:
     /// @param file       path of the music file
@@ -25,7 +25,7 @@ public:
     /// Whether the music has reached its end.
     virtual bool Eof() = 0;
 
-    /// Whether Play and Pause may be asked for.
+    /// Whether Play and Pause may be called.
     virtual bool Ready() = 0;
 
 protected:

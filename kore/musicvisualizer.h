@@ -2,7 +2,7 @@
 
 namespace kore {
 
-/// Receives blocks of played samples and turns them into something to show.
+/// Receives blocks of played samples and turns them into data to show.
 class MusicVisualizer {
 public:
     /// @param data    one block of audio data, bytes

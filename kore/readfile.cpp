@@ -9,7 +9,7 @@ namespace kore {
 
 namespace {
 
-/// Folders cannot be read, and pipes might never end. O_NONBLOCK has let us look without waiting for a writer.
+/// Folders cannot be read, and pipes might never end. O_NONBLOCK avoids waiting for a writer.
 bool regular_size(int file, std::size_t& size) {
     struct stat info {};
     if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode)) return false;
@@ -17,7 +17,7 @@ bool regular_size(int file, std::size_t& size) {
     return true;
 }
 
-/// @param size  how much to read; if the file has become shorter, how much there was
+/// @param size  how much to read; receives how much there was if the file has become shorter
 bool fill(int file, char* bytes, std::size_t& size) {
     std::size_t filled = 0;
     while (filled < size) {

@@ -7,7 +7,7 @@
 
 namespace kore {
 
-/// What a file holds. Not a string, which would first fill its memory with zeros.
+/// The content of a file. (Not a string, which would zero its memory before the bytes are read.)
 class FileText {
 public:
     std::string_view View() const { return {bytes.get(), size}; }
@@ -20,7 +20,7 @@ private:
 };
 
 /// Reads a whole file.
-/// @param text  receives the bytes; left alone on failure
+/// @param text  receives the bytes; unchanged on failure
 /// @return false if there is no such regular file, or it cannot be read or held in memory
 bool read_file(std::string const& path, FileText& text);
 

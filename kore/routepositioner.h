@@ -17,7 +17,7 @@ public:
     char const* Name() override { return "RoutePositioner"; }
 
     /// Appends a step; steps are added in the order of their times. The first step's target is also where the route
-    /// begins, so a script starts with a JUMP. A step of any other type is never completed: the route stops at it.
+    /// begins, so a route starts with a JUMP. A step of any other type is never completed: the route stops at it.
     /// @param start   scene time, seconds
     /// @param length  duration of a LINEAR step, seconds
     /// @param target  position at the end of the step

@@ -8,7 +8,7 @@ namespace kore {
 
 namespace {
 
-/// What a scene has until it is given something else.
+/// The default preparation of a scene.
 class DefaultPrepare final : public ScenePrepare {};
 
 } // namespace

@@ -29,7 +29,7 @@ public:
     int const& GetLength() const { return length; }
     std::vector<std::shared_ptr<Enabler>>& GetEnablers() { return enablers; }
 
-    /// Deliberate: stored and not drawn with; the picture is cleared to the ScenePrepare's colour.
+    /// Deliberate: stored and not used; the picture is cleared to the ScenePrepare's colour.
     void SetClearColor(Color<float> color) { clear_color = color; }
 
     /// Replaces the per-frame preparation.
@@ -42,7 +42,7 @@ public:
     void UpdateLogic(StateData const& state);
 
     /// Prepares the picture, draws what stands in the camera's view, then the rest.
-    /// @param useCamera  false leaves the scene's camera out, so that the view of the caller stands
+    /// @param useCamera  false leaves the scene's camera out, so that the caller's view applies
     void Draw(bool const& useCamera);
 
 private:

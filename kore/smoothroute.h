@@ -8,7 +8,7 @@
 namespace kore {
 
 /// A route of timed jumps and glides along splines; what it moves is up to SmoothPositioner and SmoothCam.
-/// A script writes a glide as a run of SMOOTH calls: the first gives its start and first way point, each further one
+/// A glide is written as a run of SMOOTH calls: the first gives its start and first way point, each further one
 /// adds a way point and its share of time. Every way point of a glide gets an equal share of the whole.
 class SmoothRoute : public Mutator {
 public:

@@ -9,7 +9,7 @@ namespace kore {
 
 namespace {
 
-/// Sends standard error nowhere while it lives.
+/// Discards standard error during its lifetime.
 class QuietStandardError {
 public:
     QuietStandardError() : saved(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0)) {

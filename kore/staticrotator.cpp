@@ -3,7 +3,7 @@
 namespace kore {
 
 void StaticRotator::Do(std::shared_ptr<Entity>& entity, StateData const& state) {
-    // Deliberate: latched once for good, spinning or not. In a scene played again the time may lie before it.
+    // Deliberate: latched once and for all, spinning or not. In a scene played again the time may lie before it.
     if (!started) {
         started = true;
         start_time = state.time;

@@ -10,7 +10,7 @@ constexpr int repeat_count = 1;
 constexpr int pattern_beats = 24;
 constexpr int length = pattern_beats * repeat_count;
 
-// Which of the three dancers is seen on which beat, and the long flicker in which the type can be read.
+// Which of the three dancers is visible on which beat, and the long flicker in which the type can be read.
 // clang-format off
 constexpr BlinkRow butt_blinks[] = {
     // beat type           value

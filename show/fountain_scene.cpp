@@ -27,7 +27,7 @@ std::shared_ptr<kore::Scene> fountain_scene(float const& beat) {
     auto route = std::make_shared<Route>();
     route->AddPos(Route::SMOOTH, 0, beat * 32, {0, 0, 1200});
     route->AddPos(Route::SMOOTH, beat * 32, beat * 32, {0, 0, 115});
-    // Deliberate: made and given to nobody; the camera looks at the origin all the way.
+    // Deliberate: made and never used; the camera always looks at the origin.
     auto look = std::make_shared<Look>();
     look->AddPos(Look::SMOOTH, beat * 32, beat * 32, {0, 0, 500});
 

@@ -13,7 +13,7 @@ constexpr int length = 32; // beats
 // Deliberate: longer than the scene, whose length the camera does not set.
 constexpr int camera_length = 64;
 
-// One sets off every two beats and is on its way for sixteen.
+// One sets off every two beats and travels for sixteen.
 constexpr char const* greetings[] = {
     "Arbalest", "Pixelherds", "Lanternfly", "Mirevolt", "Quartzine", "Tundrabeat", "Obelisk_K", "Heavy_Cart",
 };

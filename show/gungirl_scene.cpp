@@ -53,7 +53,7 @@ std::shared_ptr<kore::Scene> gungirl_scene(float const& beat) {
     pieces->SetColor(black);
     pieces->SetDirection(1);
     pieces->SetTransitionTime(4 * beat);
-    Scatter scatter(10, 0.1f); // they turn a lot and hardly leave their places
+    Scatter scatter(10, 0.1f); // they turn a lot and hardly move
     pieces->ResetValues(&scatter);
     blinker->Add(pieces);
 

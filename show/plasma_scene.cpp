@@ -52,7 +52,7 @@ std::shared_ptr<kore::Scene> plasma_scene(float const& beat) {
     auto blinker = std::make_shared<effect::Blinker>();
     add_blinks(*blinker, blinks, beat);
 
-    // The ground keeps still: only the titles are given to the blinker.
+    // The ground stays as it is: only the titles are targets of the blinker.
     auto background = make_background(black, beat);
     auto mountain = std::make_shared<effect::TextureMountain>();
 

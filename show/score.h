@@ -10,7 +10,7 @@
 #include <span>
 #include <vector>
 
-/// How a scene is written down: rows of what happens on which beat, in the order in which they are added.
+/// How a scene is written: rows of what happens on which beat, in the order in which they are added.
 
 using Blink = kore::BlinkerInterface;
 
@@ -22,7 +22,7 @@ constexpr bool fixed_view = false;
 constexpr int black = 0;
 constexpr int white = 1;
 
-/// Schedules one event, which has two beats' time to find a frame.
+/// Schedules one event, on the first frame within two beats.
 /// @param at    seconds since the scene's first beat
 /// @param beat  length of one beat, seconds
 void add_blink(effect::Blinker& blinker, float at, Blink::BlinkerType type, int value, float beat);
@@ -53,6 +53,6 @@ void add_cues(kore::Scene& scene, std::span<Cue const> cues, float beat);
 /// A cue's enabler by itself, as a camera needs it.
 std::shared_ptr<kore::Enabler> make_enabler(Cue const& cue, float beat);
 
-/// The wall that closes every scene, far behind it; a flip takes two beats.
+/// The wall far behind every scene; a flip takes two beats.
 /// @param color  black or white tiles
 std::shared_ptr<effect::FlashBackground> make_background(int color, float beat);

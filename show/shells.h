@@ -6,11 +6,11 @@
 #include <array>
 #include <memory>
 
-/// The torus fountain's three shells and the four blinkers of a scene that has them.
+/// The three shells around the torus fountain and the four blinkers of a scene with them.
 using FourBlinkers = std::array<std::shared_ptr<effect::Blinker>, 4>;
 
-/// Four blinkers, each with a strobe every four beats, a fifth of a beat after the blinker before; puts them on the
-/// timeline from the first beat on.
+/// Makes four blinkers, each with a strobe every four beats, a fifth of a beat after the previous one, and puts them on
+/// the timeline from the first beat.
 /// @param length  of the scene, beats
 /// @param beat    length of one beat, seconds
 FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat);

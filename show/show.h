@@ -13,7 +13,7 @@
 extern std::shared_ptr<kore::AscModel> models;
 
 /// Makes the model library over "data/" and fills the demo with the scenes of the running order; needs a current OpenGL
-/// context. A mesh that a scene cannot do without and that cannot be had ends the program with an assertion report.
+/// context. A mesh that a scene needs and that cannot be loaded ends the program with an assertion report.
 /// @param music  not used
 /// @param beat   length of one beat, seconds
 void init_demo(kore::Demo& demo, std::shared_ptr<kore::Music> music, float const& beat);

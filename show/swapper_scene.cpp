@@ -10,7 +10,7 @@
 
 namespace {
 
-// One after the other in the centre; a seventh name makes the scene 16 beats longer.
+// One after another in the centre; a seventh name makes the scene 16 beats longer.
 constexpr char const* shapes[] = {
     "framecube", "spikeydodecahedron", "frameoctoball", "infinity", "maltanristi", "frametetrahedron",
 };

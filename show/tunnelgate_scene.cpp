@@ -16,7 +16,7 @@ struct Point {
     float x, y, z;
 };
 
-// The way of the wire and of the camera through it.
+// The path of the wire and of the camera through it.
 // clang-format off
 constexpr Point path_points[] = {
     {0,   0,   0},
@@ -31,7 +31,7 @@ constexpr Point path_points[] = {
 };
 // clang-format on
 
-// What the camera looks at. Deliberate: far aside in the middle, and back over its shoulder at the end.
+// What the camera looks at. Deliberate: far to one side in the middle, and back over its shoulder at the end.
 // clang-format off
 constexpr Point look_points[] = {
     {-5,   -10, -40},

@@ -1,5 +1,5 @@
 // The pane that the tag breaks: rays and rings about the point of impact, shards small there and big at the rim.
-// One triangle is one shard, so the triangles are laid by hand and not left to a mesher.
+// One triangle is one shard, so the triangles are written by hand and not left to a mesher.
 
 impact = [-0.12, 0];
 half = [3.6, 3.2]; // of the pane
@@ -8,7 +8,7 @@ rings = 10;
 smallest = 0.17; // radius of the innermost ring
 seed = 17;
 
-// Directions, evenly spread and shaken a little; the ray nearest to a corner of the pane goes through it.
+// Directions, evenly spread and varied a little; the ray nearest to a corner of the pane goes through it.
 shake = rands(-0.22, 0.22, rays, seed);
 even = [for (i = [0:rays - 1]) (i + 0.5 + shake[i]) * 360 / rays];
 corners = [for (s = [[1, 1], [-1, 1], [-1, -1], [1, -1]]) angle_of([s[0] * half[0], s[1] * half[1]] - impact)];
@@ -23,7 +23,7 @@ function reach(a) = let (c = cos(a), s = sin(a)) min(
     abs(s) < 1e-9 ? 1e9 : (sign(s) * half[1] - impact[1]) / s);
 
 // Where ray i crosses ring k: each ring is larger than the last by the same factor, the outermost is the rim.
-// The rings between are shaken along the rays and the rays bend a little, as cracks do.
+// The rings between vary along the rays and the rays bend a little, as cracks do.
 along = rands(-0.2, 0.2, rays * rings, seed + 1);
 aside = rands(-0.13, 0.13, rays * rings, seed + 2);
 function point(i, k) = let (

@@ -1,4 +1,4 @@
-// The names of those who are greeted: slabs of lettering that tumble away.
+// The names of the groups greeted: slabs of lettering that tumble away.
 use <lib/lettering.scad>
 
 which = "Arbalest";

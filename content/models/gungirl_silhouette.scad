@@ -5,7 +5,7 @@ use <lib/figure.scad>
 include <lib/anatomy.scad>
 use <lib/pistol.scad>
 
-// The figure is shattered and every vertex of the outline makes pieces: the big calm contours are sampled finely,
+// The figure is shattered and every vertex of the outline makes pieces: the large smooth contours are sampled finely,
 // boots, hand and pistol (below) more coarsely.
 $tol = 0.0007;
 head = 1.17; // height of the head: the unit of the anatomy

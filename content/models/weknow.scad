@@ -3,7 +3,7 @@ use <lib/lettering.scad>
 
 which = "We";
 
-// All words are as high as each other, 9.6; their width is as it falls.
+// All words have the same height, 9.6; their widths vary.
 if (which == "We") plain("WE");
 if (which == "Know") plain("KNOW");
 if (which == "What") plain("WHAT");

@@ -12,6 +12,20 @@ nchnls = 2
 0dbfs  = 1
 seed 2012 ; every render draws the same numbers
 
+; What is asked for (see `render`): the mix, or with one of these macros something to measure
+#define SCORE ##
+#define MIX ##
+#ifdef EVENTS
+#undef SCORE
+#end
+#ifdef VOICES
+#undef SCORE
+#undef MIX
+#end
+#ifdef STEMS
+#undef MIX
+#end
+
 #include "orchestra/pattern.orc"
 #include "orchestra/bus.orc"
 
@@ -20,6 +34,7 @@ seed 2012 ; every render draws the same numbers
 #include "orchestra/snare.orc"
 #include "orchestra/hats.orc"
 #include "orchestra/impacts.orc"
+#include "orchestra/effects.orc"
 #include "orchestra/bass.orc"
 #include "orchestra/acid.orc"
 #include "orchestra/lead.orc"
@@ -30,6 +45,13 @@ seed 2012 ; every render draws the same numbers
 
 ; What they run through, in this order
 #include "orchestra/space.orc"
+#ifdef STEMS
+#include "orchestra/stems.orc"
+#end
+#ifdef VOICES
+#include "orchestra/audition.orc"
+#end
+#include "orchestra/limiter.orc"
 #include "orchestra/master.orc"
 
 ; What they play

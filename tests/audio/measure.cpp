@@ -117,14 +117,26 @@ std::vector<double> milliseconds(std::vector<float> const& signal) {
     return energy_ms;
 }
 
-Onset find_onset(std::vector<double> const& energy_ms, double seconds, double reach_ms) {
-    Onset best;
-    double const expected = 1000 * seconds;
-    for (long ms = std::lround(expected - reach_ms); ms <= std::lround(expected + reach_ms); ++ms) {
-        double const rise = rise_db(energy_ms, ms);
-        if (rise > best.rise_db) best = {static_cast<double>(ms) - expected, rise};
-    }
-    return best;
+Onset find_onset(std::vector<float> const& signal, double seconds) {
+    constexpr long step = samples_per_ms / 4;
+    auto const energy = [&](long index) {
+        double sum = 0;
+        for (long i = index * step; i < (index + 1) * step; ++i)
+            if (i >= 0 && i < static_cast<long>(signal.size()))
+                sum += static_cast<double>(signal[static_cast<std::size_t>(i)]) * signal[static_cast<std::size_t>(i)];
+        return sum;
+    };
+    double const expected = seconds * rate / step;
+    auto const at = [&](double ms) { return std::lround(expected + 4 * ms); };
+    long peak = at(-2);
+    for (long i = at(-2); i < at(2); ++i)
+        if (energy(i) > energy(peak)) peak = i;
+    double before = 1e-7; // -80 dB: fainter noise does not count
+    for (long i = at(-12); i < at(-3); ++i) before += energy(i) / static_cast<double>(at(-3) - at(-12));
+    double const threshold = std::max(std::sqrt(energy(peak) * before), 0.01 * energy(peak));
+    long first = peak;
+    while (first > at(-12) && energy(first - 1) >= threshold) --first;
+    return {(static_cast<double>(first) - expected) / 4, decibels(energy(peak) / before)};
 }
 
 std::vector<double> folded_rises(std::vector<double> const& energy_ms, std::vector<double> const& seconds,

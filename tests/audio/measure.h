@@ -25,14 +25,16 @@ double correlation(std::vector<float> const& a, std::vector<float> const& b);
 /// Energy per millisecond: sum of squares over each 48 samples.
 std::vector<double> milliseconds(std::vector<float> const& signal);
 
-/// An onset: where energy rises most steeply.
+/// Where a sound starts.
 struct Onset {
-    double offset_ms = 0; ///< where it lies, milliseconds from the expected time
-    double rise_db = 0;   ///< 4 ms from it against the 8 ms before it, decibels
+    double offset_ms = 0; ///< milliseconds from the expected time
+    double rise_db = 0;   ///< its peak against the 9 ms that end 3 ms before the expected time, decibels
 };
 
-/// The steepest rise within `reach_ms` of `seconds`. Before the first sample there is silence.
-Onset find_onset(std::vector<double> const& energy_ms, double seconds, double reach_ms);
+/// The start of what is loudest within 2 ms of `seconds`: going back from its peak, in steps of a quarter of a
+/// millisecond, the last point above the middle between the peak and what sounded before, but not more than 20 dB under
+/// the peak (a codec spreads a sharp edge over some milliseconds before it). Before the first sample there is silence.
+Onset find_onset(std::vector<float> const& signal, double seconds);
 
 /// The rises (in decibels, falls count as none) of a signal at whole milliseconds round each given time, summed:
 /// `2 * reach_ms + 1` values, the middle one on the times themselves.

@@ -1,33 +1,8 @@
 #include "measure.h"
+#include "scratchfolder.h"
 #include "soundtrack.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-
-namespace {
-
-/// A folder of its own that goes away with the test.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "soundtrack-XXXXXX").string();
-        if (mkdtemp(name.data()) != nullptr) my_path = name;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        if (!my_path.empty()) std::filesystem::remove_all(my_path, ignored);
-    }
-    ScratchFolder(ScratchFolder const&) = delete;
-    ScratchFolder& operator=(ScratchFolder const&) = delete;
-    [[nodiscard]] std::string const& Path() const { return my_path; }
-
-private:
-    std::string my_path; ///< empty when it could not be made
-};
-
-} // namespace
 
 // Takes some ten seconds: Csound plays the whole score.
 TEST(SoundtrackRender, FromSourceCorrelatesWithTheFile) {

@@ -79,4 +79,23 @@ std::vector<Stretch> const& hard_silences() {
     return table;
 }
 
+std::vector<Stretch> const& grooves() {
+    // clang-format off
+    static std::vector<Stretch> const table = {
+        {"Gun Girl",           24,  56 },
+        {"Swapper 1",          68,  79 },
+        {"Swapper 2",          84,  95 },
+        {"Swapper 3",          100, 111},
+        {"Swapper 5",          132, 143},
+        {"Swapper 6",          148, 156},
+        {"Tunnelgate, roots",  192, 208},
+        {"Tunnelgate, climax", 224, 248},
+        {"Fountain 1",         292, 303},
+        {"Fountain 3",         324, 335},
+        {"Fountain 4",         340, 350},
+    };
+    // clang-format on
+    return table;
+}
+
 } // namespace soundtrack

@@ -52,4 +52,7 @@ std::vector<Stretch> const& sections();
 /// Where everything stops dead: the last beat (or half of it) before a scene changes.
 std::vector<Stretch> const& hard_silences();
 
+/// Where kick and bass play together.
+std::vector<Stretch> const& grooves();
+
 } // namespace soundtrack

@@ -26,57 +26,64 @@ bool is_shattered(Kind kind) { return kind == flat_shattered || kind == solid_sh
 
 char const* const same = ""; ///< a file named like its one object
 
-/// What one object should be. Centre and half extents of its box are in units of the mesh.
+/// Along one axis, in units of the mesh.
+struct Range {
+    double low, high;
+};
+
+/// What one object should be. Boxes and counts change with the sources in content/models/: look at the model before
+/// you change them here.
 struct Model {
     char const* in_file;
     char const* object;
     Kind kind;
-    asc::Vec3 centre, half;
-    double tolerance; ///< of each side of the box, units
-    int fewest, most; ///< faces
+    Range x, y, z; ///< its box
+    std::size_t faces;
 
     std::string file() const { return *in_file ? in_file : object; }
 };
 [[maybe_unused]] void PrintTo(Model const& model, std::ostream* out) { *out << model.object; }
 
+// clang-format off
 std::vector<Model> const models = {
-    // file, object, kind, centre, half extents, tolerance, faces
-    {"weknow", "We", solid, {-1.5, 0, 0}, {4.5, 4.8, 0.6}, 0.02, 80, 900},
-    {"weknow", "Know", solid, {-1.5, 0, 0}, {8.82, 4.8, 0.6}, 0.02, 100, 900},
-    {"weknow", "What", solid, {-1.5, 0, 0}, {8.73, 4.8, 0.6}, 0.02, 100, 900},
-    {"weknow", "Are", solid, {-1.5, 0, 0}, {5.76, 4.8, 0.6}, 0.02, 100, 900},
-    {"weknow", "Doing", solid, {-1.5, 0, 0}, {8.78, 4.8, 0.6}, 0.02, 100, 900},
-    {"weknow", "QUILLONx", solid, {-0.5, 0, 0}, {15, 4.6, 0.8}, 0.02, 200, 1500},
-    {same, "glass", flat_shattered, {0, 0, 0}, {3.6, 3.2, 0}, 0.001, 200, 350},
-    {same, "gungirl_silhouette", flat_shattered, {0, 0, 0}, {1.7, 4.75, 0}, 0.35, 1000, 1600},
-    {same, "donut2", solid, {0, 0, 0}, {0.92, 0.92, 0.04}, 0.001, 1000, 1500},
-    {same, "framecube", solid_shattered, {0, 0, 0}, {6.062, 6.062, 6.062}, 0.001, 500, 900},
-    {same, "frametetrahedron", solid_shattered, {0, 0, 0}, {6.062, 6.062, 6.062}, 0.001, 500, 900},
-    {same, "frameoctoball", solid_shattered, {0, 0, 0}, {6.5, 6.5, 6.5}, 0.001, 400, 600},
-    {same, "spikeydodecahedron", solid_shattered, {0, 0, 0}, {8.507, 8.507, 8.507}, 0.001, 300, 900},
-    {same, "infinity", solid_shattered, {0, 0, 0}, {4.9, 4.9, 10}, 0.1, 400, 900},
-    {same, "maltanristi", solid_shattered, {0, 0, 0}, {6.06, 6.06, 8.02}, 0.02, 400, 900},
-    {same, "gun_silhouette", flat, {0, 0, 0}, {4, 2.5, 0}, 1.2, 50, 600},
-    {same, "credits", flat, {-0.9, -3.5, 0}, {3.2, 7.5, 0}, 0.2, 300, 3000},
-    {same, "butt_silhouette", flat, {0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
-    {same, "side2_silhouette", flat, {0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
-    {same, "sideview_silhouette", flat, {-0.9, 0, 0}, {1.3, 4.5, 0}, 0.4, 300, 2500},
-    {same, "torus2", solid, {0, 0, 0}, {3.62, 3.62, 0.42}, 0.001, 400, 600},
-    {same, "tentacles_silhouette", flat, {0, 0, -0.02}, {5, 5, 0}, 2.5, 400, 2500},
-    {same, "QUILLONx-title", flat, {0, 0, 0}, {36, 7.5, 0}, 0.01, 80, 1500},
-    {same, "HARD-title", flat, {0, 0.04, 0}, {0.6, 0.26, 0}, 0.001, 60, 600},
-    {same, "SILENCE-title", flat, {0, -0.3, 0}, {2.8, 0.58, 0}, 0.005, 80, 900},
-    {same, "hollowsoccerball", solid, {0, 0, 0}, {3.918, 3.918, 3.918}, 0.001, 1000, 2000},
-    {same, "frameicosahedron", solid, {0, 0, 0}, {1.7013, 1.7013, 1.7013}, 0.001, 300, 1500},
-    {"greetings", "Arbalest", solid, {0, 0.16, 0}, {1.78, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Pixelherds", solid, {0, 0.16, 0}, {2.12, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Lanternfly", solid, {0, 0.16, 0}, {2.16, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Mirevolt", solid, {0, 0.16, 0}, {1.69, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Quartzine", solid, {0, 0.16, 0}, {1.9, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Tundrabeat", solid, {0, 0.16, 0}, {2.29, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Obelisk_K", solid, {0, 0.16, 0}, {1.76, 0.52, 0.1}, 0.02, 200, 1800},
-    {"greetings", "Heavy_Cart", solid, {0, 0.16, 0}, {2.13, 0.52, 0.1}, 0.02, 200, 1800},
+    // file       object                  kind             x                 y                 z               faces
+    {"weknow",    "We",                   solid,           {-5.999,  2.999}, {-4.8,      4.8}, {-0.6,     0.6},   92},
+    {"weknow",    "Know",                 solid,           {-10.325, 7.325}, {-4.8,      4.8}, {-0.6,     0.6},  240},
+    {"weknow",    "What",                 solid,           {-10.229, 7.229}, {-4.8,      4.8}, {-0.6,     0.6},  164},
+    {"weknow",    "Are",                  solid,           {-7.255,  4.255}, {-4.8,      4.8}, {-0.6,     0.6},  236},
+    {"weknow",    "Doing",                solid,           {-10.277, 7.277}, {-4.8,      4.8}, {-0.6,     0.6},  372},
+    {"weknow",    "QUILLONx",             solid,           {-15.5,    14.5}, {-4.6,      4.6}, {-0.8,     0.8},  472},
+    {same,        "glass",                flat_shattered,  {-3.6,      3.6}, {-3.2,      3.2}, {0,          0},  304},
+    {same,        "gungirl_silhouette",   flat_shattered,  {-1.857,  1.884}, {-4.744,  4.767}, {0,          0}, 1551},
+    {same,        "donut2",               solid,           {-0.92,    0.92}, {-0.92,    0.92}, {-0.04,   0.04}, 1280},
+    {same,        "framecube",            solid_shattered, {-6.062,  6.062}, {-6.062,  6.062}, {-6.062, 6.062},  816},
+    {same,        "frametetrahedron",     solid_shattered, {-6.062,  6.062}, {-6.062,  6.062}, {-6.062, 6.062},  624},
+    {same,        "frameoctoball",        solid_shattered, {-6.5,      6.5}, {-6.5,      6.5}, {-6.5,     6.5},  480},
+    {same,        "spikeydodecahedron",   solid_shattered, {-8.507,  8.507}, {-8.507,  8.507}, {-8.507, 8.507},  456},
+    {same,        "infinity",             solid_shattered, {-4.906,  4.906}, {-4.906,  4.906}, {-10,       10},  576},
+    {same,        "maltanristi",          solid_shattered, {-6.059,  6.059}, {-6.059,  6.059}, {-8.019, 8.019},  416},
+    {same,        "gun_silhouette",       flat,            {-4.005,  3.999}, {-2.5,      2.5}, {0,          0},  435},
+    {same,        "credits",              flat,            {-4.101,    2.3}, {-11.143, 3.985}, {0,          0}, 1302},
+    {same,        "butt_silhouette",      flat,            {-0.296,  2.058}, {-4.504,  4.492}, {0,          0},  609},
+    {same,        "side2_silhouette",     flat,            {-0.24,   1.862}, {-4.496,  4.443}, {0,          0},  567},
+    {same,        "sideview_silhouette",  flat,            {-2.189,  0.359}, {-4.512,  4.512}, {0,          0},  736},
+    {same,        "torus2",               solid,           {-3.62,    3.62}, {-3.62,    3.62}, {-0.42,   0.42},  448},
+    {same,        "tentacles_silhouette", flat,            {-4.95,   4.186}, {-4.618,   4.95}, {-0.02,  -0.02}, 2033},
+    {same,        "QUILLONx-title",       flat,            {-36,        36}, {-7.5,      7.5}, {0,          0},  304},
+    {same,        "HARD-title",           flat,            {-0.6,      0.6}, {-0.22,     0.3}, {0,          0},  175},
+    {same,        "SILENCE-title",        flat,            {-2.8,      2.8}, {-0.88,    0.28}, {0,          0},  248},
+    {same,        "hollowsoccerball",     solid,           {-3.918,  3.918}, {-3.918,  3.918}, {-3.918, 3.918}, 1080},
+    {same,        "frameicosahedron",     solid,           {-1.701,  1.701}, {-1.701,  1.701}, {-1.701, 1.701},  360},
+    {"greetings", "Arbalest",             solid,           {-1.776,  1.776}, {-0.36,    0.68}, {-0.1,     0.1},  620},
+    {"greetings", "Pixelherds",           solid,           {-2.121,  2.121}, {-0.36,    0.68}, {-0.1,     0.1},  664},
+    {"greetings", "Lanternfly",           solid,           {-2.163,  2.163}, {-0.36,    0.68}, {-0.1,     0.1},  444},
+    {"greetings", "Mirevolt",             solid,           {-1.692,  1.692}, {-0.36,    0.68}, {-0.1,     0.1},  436},
+    {"greetings", "Quartzine",            solid,           {-1.903,  1.903}, {-0.36,    0.68}, {-0.1,     0.1},  576},
+    {"greetings", "Tundrabeat",           solid,           {-2.292,  2.292}, {-0.36,    0.68}, {-0.1,     0.1},  672},
+    {"greetings", "Obelisk_K",            solid,           {-1.76,    1.76}, {-0.36,    0.68}, {-0.1,     0.1},  568},
+    {"greetings", "Heavy_Cart",           solid,           {-2.126,  2.126}, {-0.36,    0.68}, {-0.1,     0.1},  532},
 };
+// clang-format on
 
 std::set<std::string> files() {
     std::set<std::string> all;
@@ -106,7 +113,7 @@ class EveryFile : public testing::TestWithParam<std::string> {};
 class EveryModel : public testing::TestWithParam<Model> {};
 class EveryShatteredModel : public testing::TestWithParam<Model> {};
 
-/// The shattered ones but for the ball, which is made of slim bars.
+/// The shattered ones except the ball, which is made of slim bars.
 std::vector<Model> shattered_models() {
     std::vector<Model> shattered;
     for (Model const& model : models) {
@@ -135,12 +142,12 @@ TEST(DataFolder, HoldsTheMeshesOfTheTableAndNoOthers) {
     EXPECT_EQ(found, files());
 }
 
-TEST(DataFolder, HoldsLessThanTwelveMegabytesOfMeshes) {
+TEST(DataFolder, HoldsLessThanTwoMegabytesOfMeshes) {
     std::uintmax_t size = 0;
     for (auto const& entry : std::filesystem::directory_iterator(data_folder))
         if (entry.path().extension() == ".asc") size += entry.file_size();
     EXPECT_GT(size, 0U);
-    EXPECT_LT(size, 12U * 1000 * 1000);
+    EXPECT_LT(size, 2U * 1000 * 1000);
 }
 
 TEST_P(EveryFile, HoldsItsObjectsInTheOrderOfTheTable) {
@@ -156,7 +163,7 @@ TEST_P(EveryFile, HasNoFault) {
         ADD_FAILURE() << GetParam() << ".asc:" << fault.line << ": " << fault.text;
 }
 
-// The loader takes a short line between objects for the end of the file when nothing but a name may follow.
+// Where only a name may follow, the loader takes a short line for the end of the file.
 TEST_P(EveryFile, EndsItsLinesWithCarriageReturnAndLineFeedAndHasNoBlankLineAtItsEnd) {
     std::string const text = text_of(GetParam());
     ASSERT_GT(text.size(), 4U);
@@ -193,26 +200,27 @@ TEST_P(EveryModel, FillsItsBox) {
     asc::Object const* const object = find(model);
     ASSERT_TRUE(object) << model.file() << " holds no " << model.object;
     auto const [low, high] = asc::box_of(*object);
-    double const deep = is_flat(model.kind) ? 1e-6 : model.tolerance;
-    EXPECT_NEAR(low.x, model.centre.x - model.half.x, model.tolerance);
-    EXPECT_NEAR(high.x, model.centre.x + model.half.x, model.tolerance);
-    EXPECT_NEAR(low.y, model.centre.y - model.half.y, model.tolerance);
-    EXPECT_NEAR(high.y, model.centre.y + model.half.y, model.tolerance);
-    EXPECT_NEAR(low.z, model.centre.z - model.half.z, deep);
-    EXPECT_NEAR(high.z, model.centre.z + model.half.z, deep);
+    constexpr double tolerance = 0.001;
+    double const deep = is_flat(model.kind) ? 1e-6 : tolerance;
+    EXPECT_NEAR(low.x, model.x.low, tolerance);
+    EXPECT_NEAR(high.x, model.x.high, tolerance);
+    EXPECT_NEAR(low.y, model.y.low, tolerance);
+    EXPECT_NEAR(high.y, model.y.high, tolerance);
+    EXPECT_NEAR(low.z, model.z.low, deep);
+    EXPECT_NEAR(high.z, model.z.high, deep);
 }
 
-TEST_P(EveryModel, HasAsManyFacesAsItsSceneBears) {
+TEST_P(EveryModel, HasItsFacesAndNotTooManyToShatter) {
     Model const& model = GetParam();
     asc::Object const* const object = find(model);
     ASSERT_TRUE(object);
-    int const faces = static_cast<int>(object->faces.size());
-    EXPECT_GE(faces, model.fewest);
-    EXPECT_LE(faces, model.most);
-    EXPECT_LE(faces, is_shattered(model.kind) ? 10000 : 100000);
+    EXPECT_EQ(object->faces.size(), model.faces);
+    if (is_shattered(model.kind)) {
+        EXPECT_LE(object->faces.size(), 10000U);
+    }
 }
 
-// Written out once more here, without the tool's own notion of creases and of drawing.
+// Written a second time, without the tool's own code for creases and drawing.
 using Line = std::pair<int, int>;
 
 Line line(int from, int to) { return {std::min(from, to), std::max(from, to)}; }
@@ -235,7 +243,7 @@ TEST_P(EveryModel, DrawsExactlyItsCreases) {
         auto const [a, b, c] = face.v;
         if (face.edge[0] == 1) drawn.insert(line(a, b));
         if (face.edge[1] == 1) drawn.insert(line(b, c));
-        if (face.edge[1] == 1) drawn.insert(line(c, a)); // the list asks for BC here, not for CA
+        if (face.edge[1] == 1) drawn.insert(line(c, a)); // the list uses the flag of BC here, not of CA
         for (Line const& side : {line(a, b), line(b, c), line(c, a)})
             normals[side].push_back(unit_normal(*object, face));
     }
@@ -278,18 +286,19 @@ TEST_P(EveryModel, IsClosedAndLooksOutwardOrLiesFlatAndLooksToTheViewer) {
     }
 }
 
-// Splinters as thin as needles would show when a mesh is taken apart.
+// Needle-thin splinters would show when a mesh falls apart.
 TEST_P(EveryShatteredModel, FallsIntoPiecesWithDecentAngles) {
     Model const& model = GetParam();
     asc::Object const* const object = find(model);
     ASSERT_TRUE(object);
+    bool const narrow_tips = model.object == std::string("gungirl_silhouette"); // her outline's
     std::size_t thin = 0;
     for (asc::Face const& face : object->faces) {
         double const angle = asc::smallest_angle(*object, face);
-        EXPECT_GT(angle, 5.0);
+        EXPECT_GT(angle, narrow_tips ? 12.0 : 15.0);
         thin += angle < 15.0 ? 1 : 0;
     }
-    EXPECT_LT(static_cast<double>(thin), 0.1 * static_cast<double>(object->faces.size()));
+    EXPECT_LT(static_cast<double>(thin), 0.08 * static_cast<double>(object->faces.size()));
 }
 
 TEST(Solids, ReachExactlyToTheirRadius) {
@@ -315,8 +324,7 @@ TEST(Solids, ReachExactlyToTheirRadius) {
     }
 }
 
-// The shells turn about the origin and the shattered shapes about theirs: mirror images of their points must be there
-// too.
+// The shells turn about the origin, so every point must have its mirror image.
 TEST(Solids, OfBarsAreSymmetrical) {
     for (char const* const name : {"frameoctoball", "hollowsoccerball", "frameicosahedron", "torus2", "donut2"}) {
         SCOPED_TRACE(name);
@@ -346,8 +354,8 @@ TEST(Glass, HasItsSmallestShardsAtThePointOfImpact) {
         for (int v : face.v) middle = middle + glass.vertices[static_cast<std::size_t>(v)] * (1.0 / 3.0);
         double const away = std::hypot(middle.x + 0.12, middle.y);
         double const size = std::sqrt(0.5 * asc::face_normal(glass, face).z);
-        EXPECT_LT(size, 0.08 + 0.4 * away) << "at " << middle.x << ", " << middle.y;
-        EXPECT_GT(size, 0.1 * away) << "at " << middle.x << ", " << middle.y;
+        EXPECT_LT(size, 0.05 + 0.4 * away) << "at " << middle.x << ", " << middle.y;
+        EXPECT_GT(size, 0.15 * away) << "at " << middle.x << ", " << middle.y;
     }
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using Type = kore::BlinkerInterface::BlinkerType;
 
-/// Writes down the events that reach it, in a diary that targets may share.
+/// Records the events that reach it, in a list that targets may share.
 class Target final : public kore::BlinkerInterface {
 public:
     Target(std::vector<std::string>& diary_, std::string name_, bool started_ = true)
@@ -73,9 +73,9 @@ TEST_F(Blinker, FiresFromTheStartOfAWindowUpToButNotIncludingItsEnd) {
         {"at the end",            2,  1,    3,                                      false},
         {"after",                 2,  1,    4,                                      false},
         {"no length",             2,  0,    2,                                      false},
-        {"no length, at nought",  0,  0,    0,                                      false},
+        {"no length, at zero",    0,  0,    0,                                      false},
         {"negative length",       2,  -1,   2,                                      false},
-        {"a hair before nought",  0,  1,    -1e-6f,                                 false},
+        {"just before zero",      0,  1,    -1e-6f,                                 false},
         {"negative start",        -1, 1.5f, 0,                                      true},
         {"without end",           2,  inf,  1e9f,                                   true},
     };
@@ -147,7 +147,7 @@ TEST_F(Blinker, LosesAnEventForATargetThatHasNotStartedAndKeepsItForTheOthers) {
     EXPECT_THAT(diary, ElementsAre("ready 0=1", "late 0=0", "ready 0=0"));
 }
 
-TEST_F(Blinker, SpendsAnEntryEvenWhenNobodyHearsIt) {
+TEST_F(Blinker, SpendsAnEntryEvenWhenItReachesNoTarget) {
     blinker.AddEntry(0, 10, Type::Invert, 1);
     blinker.UpdateLogic(state_at(0));
     Add("a");
@@ -156,7 +156,7 @@ TEST_F(Blinker, SpendsAnEntryEvenWhenNobodyHearsIt) {
 
 TEST_F(Blinker, SendsAnEventAtOnceWhenAsked) {
     Add("a");
-    Add("deaf", false);
+    Add("idle", false);
     blinker.Update(Type::Strobe, 9000);
     EXPECT_THAT(diary, ElementsAre("a 1=9000"));
 }

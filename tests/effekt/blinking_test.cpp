@@ -39,7 +39,7 @@ constexpr char const* black = "Color(0,0,0)";
 
 TEST_P(Blinking, IsNamedAfterItsClass) { EXPECT_EQ(Make().entity->Name(), GetParam().name); }
 
-TEST_P(Blinking, IsAtFirstWhiteAgainstBlack) {
+TEST_P(Blinking, StartsWhiteAgainstBlack) {
     Reacting const made = Make();
     EXPECT_EQ(main_color(*made.blinker), white);
     EXPECT_EQ(contrast(*made.blinker), black);
@@ -125,7 +125,7 @@ TEST_P(Blinking, StrobesAsManyFramesAsAskedEachFollowedByANormalOne) {
     }
 }
 
-TEST_P(Blinking, StartsItsStrobeAnewWithEachEvent) {
+TEST_P(Blinking, RestartsItsStrobeWithEachEvent) {
     Reacting const made = Make();
     made.blinker->Blink(Type::Strobe, 9000);
     for (int frame = 0; frame < 7; ++frame) made.entity->UpdateLogic(state_at(0));

@@ -1,4 +1,4 @@
-// Which events and flags each of the ten reacting effects hears, and what it does to the matrix stack.
+// Which events and flags each of the ten reacting effects responds to, and what it does to the matrix stack.
 
 #include "tests/effekt/reacting_effects.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 using Type = kore::BlinkerInterface::BlinkerType;
 
-/// What it draws over three frames, as a checksum.
+/// A checksum of what it draws over three frames.
 std::uint64_t picture(Reacting const& made) {
     gl::clear_log();
     float const times[] = {1.0f, 1.125f, 1.25f};
@@ -44,14 +44,14 @@ protected:
 
 constexpr int values[] = {-1, 0, 1, 2};
 
-TEST_P(BlinkTypes, InvertIsHeardByAll) {
+TEST_P(BlinkTypes, InvertReachesAll) {
     for (int const value : values) {
         SCOPED_TRACE(testing::Message() << "value " << value);
         EXPECT_EQ(Shows([&](auto& effect) { effect.Blink(Type::Invert, value); }), value == 1);
     }
 }
 
-TEST_P(BlinkTypes, StrobeIsHeardByAllWhoseUpdateCounts) {
+TEST_P(BlinkTypes, StrobeReachesAllWhoseUpdateCountsDown) {
     for (int const value : values) {
         SCOPED_TRACE(testing::Message() << "value " << value);
         EXPECT_EQ(Shows([&](auto& effect) { effect.Blink(Type::Strobe, value); }), value > 0 && GetParam().counts_down);
@@ -96,7 +96,7 @@ TEST_P(BlinkTypes, FlipShowsInTheBackgroundWhateverItsValue) {
     }
 }
 
-TEST_P(BlinkTypes, UnassignedTypesAreHeardByNobody) {
+TEST_P(BlinkTypes, UnassignedTypesChangeNothing) {
     for (int const number : {2, 5}) {
         for (int const value : values) {
             SCOPED_TRACE(testing::Message() << "type " << number << ", value " << value);
@@ -117,7 +117,7 @@ TEST(BlinkerInterface, KeepsTheNumbersOfItsTypes) {
 /// Pushes and pops around a whole Draw.
 class MatrixBalance : public effect_test::ReactingTest {};
 
-TEST_P(MatrixBalance, LeavesTheStackAsItWasSaveWhereThatIsMeant) {
+TEST_P(MatrixBalance, LeavesTheStackUnchangedExceptWhereIntended) {
     std::string const& name = GetParam().name;
     int const lost = name == "PulseWire" ? 2 : name == "GyroFuck" ? 1 : 0;
     Reacting const made = Make();

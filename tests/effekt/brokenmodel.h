@@ -19,7 +19,7 @@ struct Piece {
     float shift[3];
 };
 
-/// The next piece of the generator's sequence, its ranges the default ones: turns first, then shifts.
+/// The next piece of the generator's sequence, with the default ranges: turns first, then shifts.
 inline Piece next_piece() {
     auto const draw = [](float range) {
         int const steps = static_cast<int>((range + range) * 100);

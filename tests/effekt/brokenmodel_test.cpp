@@ -15,7 +15,7 @@ TEST_F(BrokenModel, CompilesEveryTriangleByItself) {
                                    "Vertex(0,1,0) Vertex(0,0,0) End");
 }
 
-TEST_F(BrokenModel, IsAtFirstWholeWithItsOutlines) {
+TEST_F(BrokenModel, StartsWholeWithItsOutlines) {
     EXPECT_EQ(Drawn(), Whole());
     EXPECT_EQ(DrawnAt(5), Whole());
 }
@@ -51,7 +51,7 @@ TEST_F(BrokenModel, ShowsItsOutlinesAgainWhenItBreaks) {
     EXPECT_EQ(DrawnAt(2), Apart(1, false));
 }
 
-TEST_F(BrokenModel, WaitsScatteredAndClosesWithTheDirectionOne) {
+TEST_F(BrokenModel, WaitsScatteredAndClosesWithDirectionOne) {
     model->SetDirection(1);
     model->SetTransitionTime(2);
     EXPECT_EQ(DrawnAt(0), Apart(2));
@@ -68,7 +68,7 @@ TEST_F(BrokenModel, WaitsScatteredAndClosesWithTheDirectionOne) {
     EXPECT_EQ(DrawnAt(22), Apart(1));
 }
 
-TEST_F(BrokenModel, WaitsWholeWithTheDirectionNoughtAndJumpsApartToClose) {
+TEST_F(BrokenModel, WaitsWholeWithDirectionZeroAndJumpsApartToClose) {
     model->SetDirection(0);
     model->SetTransitionTime(2);
     EXPECT_EQ(DrawnAt(0), Whole());
@@ -113,7 +113,7 @@ TEST_F(BrokenModel, ClosesAtOnceWithoutATransitionTime) {
     }
 }
 
-TEST_F(BrokenModel, TakesEveryDirectionBelowNoughtForBreaking) {
+TEST_F(BrokenModel, BreaksForEveryDirectionBelowZero) {
     model->SetDirection(-5);
     model->SetTransitionTime(2);
     EXPECT_EQ(DrawnAt(0), Whole());

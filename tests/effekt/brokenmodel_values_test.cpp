@@ -59,8 +59,8 @@ TEST_F(BrokenModel, ReadsItsFileEveryTime) {
     std::size_t const lists = gl::list_count();
     Broken other(models, "thing", "");
     EXPECT_EQ(gl::list_count(), lists + 4);
-    EXPECT_EQ(Drawn(other), Whole()); // the lists of the first of the name
-    // A file that has gone is not missed: the library holds the model.
+    EXPECT_EQ(Drawn(other), Whole()); // the lists of the first model of that name
+    // The file is gone and not needed: the library holds the model.
     std::filesystem::remove(Root() / "data/thing.asc");
     Broken third(models, "thing", "");
     EXPECT_EQ(Drawn(third), Whole());
@@ -72,7 +72,7 @@ TEST_F(BrokenModel, LoadsAFileOfAnotherNameWhenGivenOne) {
     EXPECT_THAT(Drawn(other), HasSubstr("CallList(5)"));
 }
 
-/// Notes which components it is asked for.
+/// Records which components it is asked for.
 class CountingSet final : public Broken::ValueSetInterface {
 public:
     float set(int index) override {
@@ -107,13 +107,13 @@ TEST_F(BrokenModel, GoesOnWithTheSequenceWhenItsValuesAreDrawnAgain) {
     EXPECT_EQ(Drawn(fresh), Apart(1));
 }
 
-/// A scene's own ranges, drawn as by default.
+/// A scene's own ranges, drawn from as by default.
 class NarrowSet final : public Broken::DefaultSet {
 public:
     float set(int index) override { return index < 3 ? 0 : s(1); }
 };
 
-/// The default ranges, drawn in another way.
+/// The default ranges, drawn from in another way.
 class RangeSet final : public Broken::DefaultSet {
 public:
     float s(float f) override { return f; }
@@ -138,6 +138,7 @@ TEST(BrokenModelSets, MayOverrideTheNumbersAndKeepTheRanges) {
 TEST(BrokenModelSets, DrawInHalfOpenRangesInStepsOfAHundredth) {
     std::srand(seed);
     Broken::DefaultSet set;
+    constexpr float two_steps = 0.0201f;
     for (float const f : {20.f, 5.f, 3.f, 0.5f, 0.01f}) {
         float least = f;
         float most = -f;
@@ -150,14 +151,14 @@ TEST(BrokenModelSets, DrawInHalfOpenRangesInStepsOfAHundredth) {
         }
         EXPECT_GE(least, -f) << f;
         EXPECT_LT(most, f) << f;
-        EXPECT_NEAR(least, -f, f / 50) << f;
-        EXPECT_NEAR(most, f, f / 50 + 0.0101f) << f;
+        EXPECT_NEAR(least, -f, two_steps) << f;
+        EXPECT_NEAR(most, f - 0.01f, two_steps) << f;
     }
 }
 
 using BrokenModelDeathTest = BrokenModel;
 
-TEST_F(BrokenModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
+TEST_F(BrokenModelDeathTest, EndsTheProgramWithoutItsModel) {
     WriteMesh("other.asc", "other");
     for (char const* const file : {"", "other.asc", "missing.asc"}) {
         SCOPED_TRACE(file);

@@ -105,7 +105,7 @@ TEST(FftVisualizer, AgreesForManyRandomBlocks) {
     }
 }
 
-TEST(FftVisualizer, HasASpectrumOfNoughtsForSilence) {
+TEST(FftVisualizer, HasAnAllZeroSpectrumForSilence) {
     kore::FftVisualizer fft;
     EXPECT_THAT(spectrum(fft, block([](auto) { return 77; })), testing::Contains(testing::Gt(1.0f)));
     EXPECT_THAT(spectrum(fft, Block{}), Each(0.0f));
@@ -175,7 +175,7 @@ TEST(FftVisualizer, ReportsAShortBlockAndKeepsTheSpectrum) {
     }
 }
 
-TEST(FftVisualizer, SaysNothingAboutBlocksThatAreLongEnough) {
+TEST(FftVisualizer, PrintsNothingAboutBlocksThatAreLongEnough) {
     kore::FftVisualizer fft;
     testing::internal::CaptureStdout();
     for (int call = 0; call < 2100; ++call) fft.Process(Block{}.data(), points); // past its count of 1000, twice

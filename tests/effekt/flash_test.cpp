@@ -8,7 +8,7 @@ namespace {
 
 class Flash : public effect_test::EffectTest {
 protected:
-    /// The clear of a frame.
+    /// The clearing calls of a frame.
     std::string ClearAt(float t, int beat) {
         flash.UpdateLogic(state_at(t, beat));
         return Clear();
@@ -62,7 +62,7 @@ TEST_F(Flash, LightsUpOnItsBeatsAndFadesInAStraightLine) {
     }
 }
 
-TEST_F(Flash, StartsAnewOnABeatDuringAFlash) {
+TEST_F(Flash, RestartsOnABeatDuringAFlash) {
     flash.AddFlash(1);
     flash.AddFlash(2);
     flash.UpdateLogic(state_at(1, 1));

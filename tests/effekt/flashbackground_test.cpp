@@ -62,7 +62,7 @@ TEST_F(FlashBackground, DrawsNineHundredTilesRowByRowAndTheBackdropBehindThem) {
     EXPECT_THAT(gl::errors(), testing::IsEmpty());
 }
 
-TEST_F(FlashBackground, OnlyTranslatesInDrawAndLeavesTheTranslation) {
+TEST_F(FlashBackground, OnlyTranslatesInDrawAndLeavesTheTranslationBehind) {
     wall.SetPos({1, 2, -3});
     wall.SetRot({10, 20, 30});
     gl::clear_log();

@@ -20,7 +20,7 @@ protected:
         NameLists(*models, "donut2");
     }
 
-    /// Draws inside a matrix to spare, as its entity does.
+    /// Draws inside one more matrix, as its entity does.
     std::string Drawn() {
         glPushMatrix();
         gl::clear_log();
@@ -93,7 +93,7 @@ TEST_F(GyroFuck, BreathesInCounterPhaseAndSwapsOnEveryEvenBeat) {
         {"and beyond it",                  2.5f,   3,  false, -5,     55},
         {"the next even beat swaps back",  3,      4,  true,  10,     40},
         {"breathing",                      3.125f, 4,  false, 13.75f, 36.25f},
-        {"nought is an even beat",         4,      0,  true,  40,     10},
+        {"zero is an even beat",           4,      0,  true,  40,     10},
         {"a beat counts on its new frame", 4.5f,   0,  false, 25,     25},
     };
     // clang-format on
@@ -105,7 +105,7 @@ TEST_F(GyroFuck, BreathesInCounterPhaseAndSwapsOnEveryEvenBeat) {
 }
 
 TEST_F(GyroFuck, IsExactlyTenAndFortyOnAnEvenBeat) {
-    // A beat of the show's tempo does not fall on round numbers.
+    // At the show's tempo beats do not fall on round numbers.
     for (int beat = 0; beat < 32; beat += 2) {
         float const t = static_cast<float>(beat) * (60.0f / 132.0f);
         gyro->UpdateLogic(state_at(t, beat, true));

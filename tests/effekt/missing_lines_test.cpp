@@ -1,5 +1,5 @@
-// The check for the lines of a model. The library stores faces and lines together, so it can only fail behind a library
-// that has lost its lines: this program is linked with a lookup that can be made to fail.
+// The check for a model's lines. The library stores faces and lines together, so the check fails only if the library
+// loses its lines: this program is linked with a lookup that can be made to fail.
 
 #include "effekt/showmodel.h"
 #include "effekt/simplemodel.h"
@@ -13,7 +13,7 @@ bool lines_are_lost = false;
 
 } // namespace
 
-// The linker's --wrap puts lookup in the place of AscModel::WfByName, and that in the place of real_lookup.
+// The linker's --wrap replaces AscModel::WfByName by lookup, and real_lookup by AscModel::WfByName.
 #define WF_BY_NAME "_ZNK4kore8AscModel8WfByNameERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEERj"
 bool real_lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) asm("__real_" WF_BY_NAME);
 bool lookup(kore::AscModel const* models, std::string const& name, unsigned int& list) asm("__wrap_" WF_BY_NAME);

@@ -48,7 +48,7 @@ TEST_F(ModelSwapper, DrawsBothWhateverTheFlagsSay) {
     EXPECT_EQ(Drawn(model), plain);
 }
 
-TEST_F(ModelSwapper, IsNeverReachedByABlinkerAndHearsADirectCall) {
+TEST_F(ModelSwapper, IsNeverReachedByABlinkerButByADirectCall) {
     auto const model = std::make_shared<effect::ModelSwapper>("thing");
     effect::Blinker blinker;
     blinker.Add(model);

@@ -8,7 +8,7 @@ namespace {
 
 int byte_of(double wave) { return static_cast<int>(std::trunc(wave * 127 + 128)); }
 
-/// The rings: a wave over the distance to the middle of a plane of twice the picture's size.
+/// The rings: a wave of the distance from the middle of a plane twice the size of the picture.
 int ring(int x, int y, int width, int height) {
     double const dx = x - width;
     double const dy = y - height;

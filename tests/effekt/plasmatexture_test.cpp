@@ -56,7 +56,7 @@ TEST(PlasmaTexture, TurnsItsPaletteAtEveryMomentByTheFormulaItself) {
     std::uniform_real_distribution<double> any(-4.3e9, 4.3e9);
     std::vector<double> moments;
     moments.reserve(56000);
-    for (int t = 0; t < 8000; ++t) moments.push_back(t); // all that its scene counts through
+    for (int t = 0; t < 8000; ++t) moments.push_back(t); // all steps of its scene
     for (int i = 0; i < 20000; ++i) moments.push_back(any(generator));
     for (int i = 0; i < 20000; ++i) moments.push_back(any(generator) * 1e4);      // where sums are rounded coarsely
     for (int i = -4000; i < 4000; ++i) moments.push_back(i * 133 * kore::PI / 2); // quarter turns, exactly on a step

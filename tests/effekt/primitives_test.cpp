@@ -1,4 +1,4 @@
-// The small bodies: cube, ball, plane and transition.
+// The small effects: cube, ball, plane and transition.
 
 #include "effekt/blinker.h"
 #include "effekt/simplecube.h"
@@ -126,7 +126,7 @@ TEST_F(SimpleTransition, IsALargeSquareTwoUnitsAwayWithoutTheTransformOfItsEntit
     EXPECT_EQ(gl::model_view_depth(), 1u);
 }
 
-TEST_F(SimpleTransition, FadesOutFromItsFirstUpdateOnToJustAboveNought) {
+TEST_F(SimpleTransition, FadesOutFromItsFirstUpdateToJustAboveZero) {
     fade.SetTime(4);
     EXPECT_EQ(AlphaAt(10), "Color(1,1,1,1)");
     EXPECT_EQ(AlphaAt(11), "Color(1,1,1,0.75)");
@@ -135,7 +135,7 @@ TEST_F(SimpleTransition, FadesOutFromItsFirstUpdateOnToJustAboveNought) {
     EXPECT_EQ(AlphaAt(99), "Color(1,1,1,0.125)");
 }
 
-TEST_F(SimpleTransition, FadesInWithTheDirectionOneAlone) {
+TEST_F(SimpleTransition, FadesInWithDirectionOneOnly) {
     fade.SetTime(4);
     fade.SetDirection(1);
     EXPECT_EQ(AlphaAt(0), "Color(1,1,1,0)");
@@ -146,7 +146,7 @@ TEST_F(SimpleTransition, FadesInWithTheDirectionOneAlone) {
     EXPECT_EQ(AlphaAt(1), "Color(1,1,1,0.75)");
 }
 
-TEST_F(SimpleTransition, TakesOneSecondUnlessToldOtherwise) {
+TEST_F(SimpleTransition, TakesOneSecondByDefault) {
     EXPECT_EQ(AlphaAt(0), "Color(1,1,1,1)");
     EXPECT_EQ(AlphaAt(0.75f), "Color(1,1,1,0.25)");
     EXPECT_EQ(AlphaAt(1), "Color(1,1,1,0.25)");

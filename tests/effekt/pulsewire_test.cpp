@@ -32,14 +32,14 @@ protected:
         return wire;
     }
 
-    /// Draws with four matrices to spare, as inside a scene and its entity.
+    /// Draws inside four more matrices, as in a scene and its entity.
     static void Draw(effect::PulseWire& wire) {
         for (int i = 0; i < 4; ++i) glPushMatrix();
         gl::clear_log();
         wire.InternalDraw();
     }
 
-    /// The calls of torus i, whole.
+    /// All calls of torus i.
     std::string Torus(int i) const {
         kore::Vector3<float> const p = spline->GetSplinePoint(static_cast<float>(i) * (1.0f / 99));
         char place[80];
@@ -76,7 +76,7 @@ TEST_F(PulseWire, IssuesOnlyWhatTheStandardLeavesEffectiveWhenAsked) {
 }
 
 TEST_F(PulseWire, TakesTheFirstCornersFromItsOwnObjectOfTheFile) {
-    // Another object stands before it.
+    // Another object comes before it.
     std::stringstream torus;
     torus << std::ifstream(Root() / "data/torus2.asc", std::ios::binary).rdbuf();
     std::ofstream(Root() / "data/torus2.asc", std::ios::binary) << "Named object: \"other\"\r\n"
@@ -96,7 +96,7 @@ TEST_F(PulseWire, LeavesTheFirstTorusOutWhereItsFileDoesNotHoldIt) {
         SCOPED_TRACE(object);
         gl::reset();
         kore::AscModel_ptr const models = Library();
-        models->LoadModel("torus2.asc"); // the model is there, and then its file is another
+        models->LoadModel("torus2.asc"); // the model is loaded, and then its file changes
         std::filesystem::remove(Root() / "data/torus2.asc");
         if (*object) WriteMesh("torus2.asc", object);
         support::WithLook const look(support::standard_wire);

@@ -9,7 +9,7 @@
 
 namespace effect_test {
 
-/// One object, under its two interfaces.
+/// One object, by its two interfaces.
 struct Reacting {
     std::shared_ptr<kore::Entity> entity;
     std::shared_ptr<kore::BlinkerInterface> blinker;
@@ -20,10 +20,10 @@ struct Kind {
     std::string name;
     std::function<Reacting(kore::AscModel_ptr const&)> make;
     bool counts_down; ///< its update runs the strobe
-    bool starts;      ///< its update makes it hear a Blinker
+    bool starts;      ///< after its update a Blinker reaches it
 };
 
-/// All ten, in the order in which blinkerinterface.h is implemented.
+/// All ten, in a fixed order.
 std::vector<Kind> const& all_kinds();
 
 /// Its name, for gtest.

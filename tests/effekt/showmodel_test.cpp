@@ -18,7 +18,7 @@ protected:
         models = Library();
     }
 
-    /// One of a start at 2 s, a swing of 0.5 s and a show of 3 s.
+    /// One that starts at 2 s, swings for 0.5 s and stands for 3 s.
     std::unique_ptr<effect::ShowModel> Timed(float start = 2, float swing = 0.5f, float show = 3) {
         auto model = std::make_unique<effect::ShowModel>(models, "thing", "");
         NameLists(*models, "thing");
@@ -34,7 +34,7 @@ protected:
         return gl::calls();
     }
 
-    /// The calls while it comes, stands or leaves, the hinge at its default.
+    /// The calls while it swings in, stands or swings away, with the default hinge.
     static std::string Swung(std::string const& angle, bool leaving) {
         std::string const hinge = leaving ? "-5" : "5";
         std::string const back = leaving ? "5" : "-5";
@@ -85,7 +85,7 @@ TEST_F(ShowModel, SwingsInStandsAndSwingsAway) {
                    Swung);
 }
 
-TEST_F(ShowModel, HasAtFirstAShowOfFiveSecondsAndSwingsOfOne) {
+TEST_F(ShowModel, DefaultsToAShowOfFiveSecondsAndSwingsOfOne) {
     effect::ShowModel model(models, "thing", "");
     NameLists(*models, "thing");
     EXPECT_STREQ(model.Name(), "ShowModel");
@@ -135,7 +135,7 @@ TEST_F(ShowModel, JumpsAwayWithoutASwing) {
                    Swung);
 }
 
-TEST_F(ShowModel, DividesNoughtByNoughtAtTheEndOfAShowWithoutASwing) {
+TEST_F(ShowModel, DividesZeroByZeroAtTheEndOfAShowWithoutASwing) {
     auto const model = Timed(2, 0, 3);
     model->UpdateLogic(state_at(5));
     EXPECT_THAT(Drawn(*model), HasSubstr("nan,1,0,0)"));
@@ -184,7 +184,7 @@ TEST_F(ShowModel, DrawsItsFacesWhateverTheSolidFlagSaysAndItsLinesByTheirs) {
     EXPECT_EQ(Drawn(*model), Swung("0", false));
 }
 
-TEST_F(ShowModel, TakesAModelThatTheLibraryHolds) {
+TEST_F(ShowModel, UsesAModelThatTheLibraryHolds) {
     models->LoadModel("thing.asc");
     effect::ShowModel(models, "thing", "gone.asc");
     EXPECT_EQ(models->size(), 1u);
@@ -192,27 +192,9 @@ TEST_F(ShowModel, TakesAModelThatTheLibraryHolds) {
 
 using ShowModelDeathTest = ShowModel;
 
-TEST_F(ShowModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
+TEST_F(ShowModelDeathTest, EndsTheProgramWithoutItsModel) {
     WriteMesh("other.asc", "other");
-    struct Row {
-        char const* model_name;
-        char const* file_name;
-        int line;
-        char const* expression;
-    };
-    Row const rows[] = {
-        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"},
-        {"none", "", 25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
-        {"thing", "other.asc", 27, R"(models->ModelByName(model_name, myModel))"},
-    };
-    for (Row const& row : rows) {
-        SCOPED_TRACE(row.expression);
-        EXPECT_DEATH(effect::ShowModel(models, row.model_name, row.file_name),
-                     HasSubstr("effekt_test: effekt/showmodel.cpp:" + std::to_string(row.line) +
-                               ": effect::ShowModel::ShowModel(kore::AscModel_ptr, const string&, const string&): "
-                               "Assertion `" +
-                               row.expression + "' failed.\n"));
-    }
+    ExpectDeathWithoutModel<effect::ShowModel>(models, "effekt/showmodel.cpp", "effect::ShowModel::ShowModel");
 }
 
 } // namespace

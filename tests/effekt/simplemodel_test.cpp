@@ -15,7 +15,7 @@ class SimpleModel : public effect_test::EffectTest {
 protected:
     void SetUp() override { WriteMesh("thing.asc", "thing"); }
 
-    /// What its InternalDraw calls.
+    /// The calls of its InternalDraw.
     std::string Drawn(effect::SimpleModel& model) {
         gl::clear_log();
         model.InternalDraw();
@@ -25,7 +25,7 @@ protected:
     kore::AscModel_ptr models = Library();
 };
 
-TEST_F(SimpleModel, DrawsWhiteFacesAndOverThemBlackLines) {
+TEST_F(SimpleModel, DrawsWhiteFacesAndBlackLinesOverThem) {
     effect::SimpleModel model(models, "thing", "");
     NameLists(*models, "thing");
     EXPECT_STREQ(model.Name(), "SimpleModel");
@@ -88,7 +88,7 @@ TEST_F(SimpleModel, DrawsFacesAndLinesByTheirFlags) {
     EXPECT_EQ(Drawn(model), "PushMatrix Scale(1,1,1) " + std::string(faces) + "PopMatrix");
 }
 
-TEST_F(SimpleModel, StaysATargetWhileNothingOfItIsDrawn) {
+TEST_F(SimpleModel, StaysATargetWhileNothingIsDrawn) {
     effect::SimpleModel model(models, "thing", "");
     NameLists(*models, "thing");
     model.DrawSolid(false);
@@ -136,27 +136,9 @@ TEST_F(SimpleModel, LoadsAFileOfAnotherNameWhenGivenOne) {
 
 using SimpleModelDeathTest = SimpleModel;
 
-TEST_F(SimpleModelDeathTest, EndsTheProgramWhenItsModelCannotBeHad) {
+TEST_F(SimpleModelDeathTest, EndsTheProgramWithoutItsModel) {
     WriteMesh("other.asc", "other");
-    struct Row {
-        char const* model_name;
-        char const* file_name;
-        int line;
-        char const* expression;
-    };
-    Row const rows[] = {
-        {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"},
-        {"none", "", 25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
-        {"thing", "other.asc", 27, R"(models->ModelByName(model_name, myModel))"},
-    };
-    for (Row const& row : rows) {
-        SCOPED_TRACE(row.expression);
-        EXPECT_DEATH(effect::SimpleModel(models, row.model_name, row.file_name),
-                     HasSubstr("effekt_test: effekt/simplemodel.cpp:" + std::to_string(row.line) +
-                               ": effect::SimpleModel::SimpleModel(kore::AscModel_ptr, const string&, const string&): "
-                               "Assertion `" +
-                               row.expression + "' failed.\n"));
-    }
+    ExpectDeathWithoutModel<effect::SimpleModel>(models, "effekt/simplemodel.cpp", "effect::SimpleModel::SimpleModel");
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace effect_test {
 char const* const mesh_faces =
     "Begin(TRIANGLES) Vertex(0,0,0) Vertex(1,0,0) Vertex(1,1,0) Vertex(0,0,0) Vertex(1,1,0) Vertex(0,1,0) End";
 
-// The second face shows BC, and with it CA.
+// The second face shows BC and, with it, CA.
 char const* const mesh_lines =
     "LineWidth(1) Begin(LINES) Vertex(0,0,0) Vertex(1,0,0) Vertex(1,1,0) Vertex(0,1,0) Vertex(0,1,0) Vertex(0,0,0) End";
 

@@ -16,7 +16,7 @@ namespace effect_test {
 /// A frame's timing record.
 kore::StateData state_at(float time, int beat = -1, bool new_beat = false);
 
-/// Another working folder for as long as it lives.
+/// Changes the working folder for its lifetime.
 class WorkingFolder {
 public:
     explicit WorkingFolder(std::filesystem::path const& path);
@@ -28,7 +28,7 @@ private:
     std::filesystem::path before;
 };
 
-/// Each test starts with a fresh stand-in for OpenGL and with a folder "data/" that holds a few small meshes.
+/// Each test starts with a fresh stand-in for OpenGL and an empty folder "data/" for small meshes.
 class EffectTest : public testing::Test {
 protected:
     EffectTest();
@@ -41,6 +41,31 @@ protected:
 
     /// The folder that holds "data/".
     std::filesystem::path Root() const { return folder.Path(""); }
+
+    /// The reports of an effect whose constructor takes a library, a model's name and a file's name, where the file is
+    /// missing or holds another model. Expects "thing.asc" to be missing and "other.asc" to hold "other".
+    template<class Effect>
+    static void ExpectDeathWithoutModel(kore::AscModel_ptr const& models, std::string const& file,
+                                        std::string const& constructor) {
+        struct {
+            char const* model_name;
+            char const* file_name;
+            int line;
+            char const* expression;
+        } const rows[] = {
+            {"thing", "missing.asc", 23, R"(models->LoadModel(file_name) >= 0)"},
+            {"none", "", 25, R"(models->LoadModel(model_name + ".asc") >= 0)"},
+            {"thing", "other.asc", 27, R"(models->ModelByName(model_name, myModel))"},
+        };
+        for (auto const& row : rows) {
+            SCOPED_TRACE(row.expression);
+            EXPECT_DEATH(Effect(models, row.model_name, row.file_name),
+                         testing::HasSubstr("effekt_test: " + file + ":" + std::to_string(row.line) + ": " +
+                                            constructor +
+                                            "(kore::AscModel_ptr, const string&, const string&): Assertion `" +
+                                            row.expression + "' failed.\n"));
+        }
+    }
 
     /// Lets the log show the two lists of a loaded object as its name and its name with "-lines".
     static void NameLists(kore::AscModel const& models, std::string const& object);

@@ -8,7 +8,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// A picture that can be painted.
+/// A texture whose bytes can be set.
 class Painted final : public effect::Texture {
 public:
     void Fill(unsigned char value) { std::fill_n(pixels.get(), size, value); }
@@ -66,7 +66,7 @@ TEST_F(Texture, UploadsItselfWithEachOfTheFilters) {
     texture.Init(64, 128);
     texture.Fill(2);
     texture.Pixel(0) = 255;
-    // The sum of all bytes handed over: each grey level three times.
+    // The sum of all bytes passed: each grey level three times.
     double const sum = 3 * (255 + 2 * (64 * 128 - 1));
     struct Row {
         effect::texture_filter filter;

@@ -21,7 +21,7 @@ protected:
         return text;
     }
 
-    /// The calls of cell k, counted along the rows.
+    /// The expected calls of cell k, counted along the rows.
     static std::string Cell(std::vector<unsigned char> const& picture, std::size_t k) {
         int const x = static_cast<int>(k % 63) - 32;
         int const y = static_cast<int>(k / 63) - 32;
@@ -35,7 +35,7 @@ protected:
                lower + "Begin(LINES) " + upper;
     }
 
-    /// What the log holds of cell k.
+    /// The logged calls of cell k.
     static std::string Drawn(std::size_t k) {
         std::string calls;
         for (std::size_t i = 0; i < calls_of_a_cell; ++i) calls += gl::call_list()[1 + k * calls_of_a_cell + i] + ' ';
@@ -98,7 +98,7 @@ TEST_F(TextureMountain, TakesTheTimeInWholeStepsOfAFiveHundredth) {
     EXPECT_NE(gl::checksum(), early);
 }
 
-TEST_F(TextureMountain, WrapsATimeAHairBelowNoughtToNought) {
+TEST_F(TextureMountain, WrapsATimeJustBelowZeroToZero) {
     DrawAt(0);
     std::uint64_t const start = gl::checksum();
     DrawAt(-0.001f); // truncated, not rounded down

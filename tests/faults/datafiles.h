@@ -18,14 +18,14 @@ inline std::vector<std::string> mesh_files() {
     return names;
 }
 
-/// @return as many bytes of any value
+/// @return that many random bytes
 inline std::string noise(std::size_t size, std::minstd_rand& generator) {
     std::string bytes(size, '\0');
     for (char& byte : bytes) byte = static_cast<char>(generator() >> 8);
     return bytes;
 }
 
-/// The line on standard output that tells of a mesh file; a pattern.
+/// The error line about a mesh file on standard output, as a pattern.
 inline std::string error_line(std::string const& message) {
     std::string escaped;
     for (char const c : message) {

@@ -27,7 +27,7 @@ protected:
         std::size_t stored;
     };
 
-    /// Loads a text as a file of the library.
+    /// Loads a text as a file into the library.
     Answer Load(std::string const& damaged, bool full) const {
         std::string const path = folder.Write("mesh.asc", damaged);
         kore::AscModel models("");
@@ -36,7 +36,7 @@ protected:
         return {result, testing::internal::GetCapturedStdout(), models.size()};
     }
 
-    /// Loads a text into both stores; the answers have to be those to the plain reader's findings.
+    /// Loads a text into both stores; both must agree with what the plain reader finds.
     void ExpectAnswers(std::string const& damaged, reference::File const& expected) const {
         int const last = static_cast<int>(expected.meshes.size()) - 1;
         std::string const line = expected.fault.empty() ? "" : faults::error_line(expected.fault);
@@ -58,7 +58,7 @@ bool same_bits(std::vector<std::array<float, 3>> const& a, std::vector<std::arra
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof a[0]) == 0;
 }
 
-/// Whether a mesh is as the whole file has it, but for the edges and corners of its last face.
+/// Whether a mesh is the one of the whole file, except for the edges and corners of its last face.
 bool same_up_to_last_face(reference::Mesh const& cut, reference::Mesh const& whole) {
     if (cut.name != whole.name || !same_bits(cut.vertices, whole.vertices)) return false;
     return cut.faces.size() == whole.faces.size() &&
@@ -66,7 +66,7 @@ bool same_up_to_last_face(reference::Mesh const& cut, reference::Mesh const& who
            std::equal(cut.edges.begin(), cut.edges.end() - 1, whole.edges.begin());
 }
 
-/// 50 places in a text of that size: most evenly spread, and some close to its end.
+/// 50 places in a text of that size: most spread evenly, some close to its end.
 std::vector<std::size_t> places(std::size_t size) {
     std::vector<std::size_t> at;
     for (std::size_t i = 0; i < 40; ++i) at.push_back(size * i / 40 + i % 7);
@@ -94,14 +94,14 @@ TEST_P(DamagedMesh, OfNoiseIsReported) {
     for (int round = 0; round < 3; ++round) {
         SCOPED_TRACE(round);
         std::string const bytes = faults::noise(text.size(), generator);
-        // A line of less than two characters ends the file early, and that is no fault: an empty library tells.
+        // A line shorter than two characters ends the file early without a fault: then the library is empty.
         reference::File const expected = reference::read_asc(bytes);
         EXPECT_TRUE(expected.meshes.empty());
         ExpectAnswers(bytes, expected);
     }
 }
 
-/// The show's reader finds what the plain one does, or a limit which that one lacks.
+/// The show's reader finds what the plain one does, or a limit that the plain one lacks.
 void expect_same_or_limited(std::string const& path, std::string const& damaged) {
     reference::File const expected = reference::read_asc(damaged);
     kore::AscFile file;

@@ -1,4 +1,4 @@
-// The soundtrack that is not as it should be. Plays through OpenAL's null output: CMakeLists.txt sets ALSOFT_DRIVERS.
+// A damaged soundtrack. Plays through OpenAL's null output: CMakeLists.txt sets ALSOFT_DRIVERS.
 
 #include "kore/music-sfml.h"
 #include "tests/faults/datafiles.h"
@@ -21,11 +21,11 @@ constexpr uid_t nobody = 65534;
 
 class DamagedSoundtrack : public testing::Test {
 protected:
-    DamagedSoundtrack() { sf::err().rdbuf(nullptr); } // the library's own words on every file
+    DamagedSoundtrack() { sf::err().rdbuf(nullptr); } // the library's own messages about each file
     ~DamagedSoundtrack() override { sf::err().rdbuf(before); }
 
-    /// Loads and, whether that succeeds or not, plays for a moment, with a pause in it.
-    /// @return whether it was refused, in one line; every other line is a finding
+    /// Loads it and, whether or not that succeeds, plays for a moment, with a pause.
+    /// @return whether it was refused with one line; any other line fails the test
     bool Refused(std::string const& path) {
         testing::internal::CaptureStdout();
         bool refused = false;
@@ -84,7 +84,7 @@ TEST_F(DamagedSoundtrack, OpensWhereItIsCutAnywhereBehindItsHeaders) {
     EXPECT_LT(playable, cuts);
 }
 
-TEST_F(DamagedSoundtrack, EndsNothingWhereSomeBytesAreWrong) {
+TEST_F(DamagedSoundtrack, SurvivesWrongBytes) {
     for (unsigned int seed = 1; seed <= cuts; ++seed) {
         SCOPED_TRACE(seed);
         std::minstd_rand generator(seed);

@@ -1,42 +1,43 @@
-// The whole show, with one mesh file after the other that is not as it should be: each in a process of its own, as the
-// show may end with an assertion report.
+// The whole show with one damaged mesh file after another, each time in a process of its own: the show may abort with
+// an assertion report.
 
 #include "tests/faults/datafiles.h"
 #include "tests/show/scores.h"
 #include "tests/show/wholeshow.h"
+#include "tests/support/command.h"
 #include "tests/support/reference_asc.h"
 #include "tests/support/temp.h"
 
 #include <csignal>
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
+using support::Outcome;
 using testing::ContainsRegex;
 using testing::HasSubstr;
 
 namespace {
 
 constexpr uid_t nobody = 65534;
-constexpr int cannot_change = 2;     ///< exit status: not the folder, or not the user
-constexpr unsigned int longest = 10; // seconds: whoever takes longer hangs
+constexpr int cannot_change_user = 2;       ///< exit status of the child
+constexpr int too_short_or_long = 3;        ///< the same
+constexpr std::chrono::seconds longest{10}; ///< more than this is a hang
 
 /// What the show does without the file.
 enum class Need {
     Ordinary, ///< ends: a model of the ordinary store
     Pieces,   ///< ends: a model by triangle
-    Word,     ///< ends: one of several models in one file, looked for in a file of its own then
-    None,     ///< goes on without a picture of it
+    Word,     ///< ends: one of several models in one file; the show then looks for a file of that name
+    None,     ///< continues and does not draw it
 };
 
 struct Row {
     char const* file;
     Need need;
-    char const* first; ///< of several models: the one that is missed first
+    char const* first; ///< of several models: the first one looked for
 };
 
 // clang-format off
@@ -88,45 +89,27 @@ protected:
         chmod(Path(name).c_str(), 0644);
     }
 
-    struct End {
-        int status = 0; ///< as waitpid gives it
-        std::string output;
-        std::string error;
-    };
-
     /// Plays the whole show, a few frames a beat, on an OpenGL that does nothing.
-    /// @param user  who plays; 0 for the one that runs the test
-    End Play(uid_t user = 0) const {
-        std::string const out = root.Write("out", "");
-        std::string const error = root.Write("error", "");
-        pid_t const child = fork();
-        if (child == 0) {
-            dup2(open(out.c_str(), O_WRONLY), STDOUT_FILENO);
-            dup2(open(error.c_str(), O_WRONLY), STDERR_FILENO);
-            rlimit const no_core{0, 0};
-            setrlimit(RLIMIT_CORE, &no_core);
-            alarm(longest);
-            if (chdir(root.Path("").c_str()) != 0 || (user != 0 && setuid(user) != 0)) _exit(cannot_change);
+    /// @param user  who plays it; 0 for the user who runs the test
+    Outcome Play(uid_t user = 0) const {
+        auto const play = [user] {
+            if (user != 0 && setuid(user) != 0) return cannot_change_user;
             int const beats = wholeshow::play(
                 4, [] {}, [](wholeshow::Frame const&) {});
-            _exit(beats == scores::show_beats ? 0 : 3);
-        }
-        End end;
-        waitpid(child, &end.status, 0);
-        end.output = support::read_all(out);
-        end.error = support::read_all(error);
-        return end;
+            return beats == scores::show_beats ? 0 : too_short_or_long;
+        };
+        return support::run_in_child(play, {.folder = root.Path(""), .limit = longest});
     }
 
     /// @param message  first line of the report, a pattern
-    static void ExpectAnswer(Row const& row, End const& end, std::string const& message) {
+    static void ExpectAnswer(Row const& row, Outcome const& end, std::string const& message) {
         EXPECT_THAT(end.output, ContainsRegex(message));
         if (row.need == Need::None) {
-            EXPECT_TRUE(WIFEXITED(end.status) && WEXITSTATUS(end.status) == 0) << end.status << end.error;
+            EXPECT_EQ(end.status, 0) << end.error;
             EXPECT_EQ(end.error, "");
             return;
         }
-        EXPECT_TRUE(WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGABRT) << end.status << end.error;
+        EXPECT_EQ(end.signal, SIGABRT) << end.error;
         EXPECT_THAT(end.error, HasSubstr(Report(row)));
         if (row.need == Need::Word) {
             std::string const own = "Could not open file data/" + std::string(row.first) + ".asc";
@@ -151,7 +134,7 @@ protected:
 };
 
 TEST_F(StartUp, IsSilentWithEveryFile) {
-    End const end = Play();
+    Outcome const end = Play();
     EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.output, "");
     EXPECT_EQ(end.error, "");
@@ -193,8 +176,7 @@ TEST_F(StartUp, ReportsAFolder) {
 
 TEST_F(StartUp, ReportsAFileThatMayNotBeRead) {
     uid_t const user = geteuid() == 0 ? nobody : 0; // root may read every file
-    int const status = Play(user).status;
-    if (WIFEXITED(status) && WEXITSTATUS(status) == cannot_change) {
+    if (Play(user).status == cannot_change_user) {
         GTEST_SKIP() << "root may read every file, and cannot become nobody here";
     }
     for (Row const& row : rows) {
@@ -244,8 +226,8 @@ TEST_F(StartUp, MissesAModelWhereAFileEndsBetweenTwo) {
         SCOPED_TRACE(cut.file);
         std::string const text = support::read_all(Path(cut.file));
         root.Write("data/" + std::string(cut.file), text.substr(0, text.find("Named object:", 1)));
-        End const end = Play();
-        EXPECT_TRUE(WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGABRT) << end.status << end.error;
+        Outcome const end = Play();
+        EXPECT_EQ(end.signal, SIGABRT) << end.error;
         std::string const own = "Could not open file data/" + std::string(cut.lost) + ".asc";
         EXPECT_THAT(end.output, ContainsRegex(faults::error_line(own)));
         Restore(cut.file);

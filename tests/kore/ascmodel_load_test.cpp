@@ -20,7 +20,7 @@ class Loader : public testing::Test {
 protected:
     void SetUp() override { gl::reset(gl::Logging::Sums); }
 
-    /// Loads a file by its path; keeps what that printed.
+    /// Loads a file by its path; keeps what is printed.
     int Load(std::string const& path, bool full = false) {
         testing::internal::CaptureStdout();
         int const result = models.LoadModelFromFile(path, full);
@@ -80,10 +80,14 @@ constexpr Row rows[] = {
     {"header-counts-missing.asc",          -1, 0, "Bad file format"},
     {"header-counts-overflow.asc",         -1, 0, "Bad file format"},
     {"header-counts-wrap.asc",             -1, 0, "Bad file format"},
-    {"face-index-overflow.asc",            -1, 0, "Bad file format in tests/data/face-index-overflow.asc: face 0 has no vertex 9223372036854775807."},
-    {"face-index-wrap.asc",                -1, 0, "Bad file format in tests/data/face-index-wrap.asc: face 0 has no vertex 4294967297."},
-    {"face-index-negative.asc",            -1, 0, "Bad file format in tests/data/face-index-negative.asc: face 0 has no vertex -1."},
-    {"face-index-too-large.asc",           -1, 0, "Bad file format in tests/data/face-index-too-large.asc: face 0 has no vertex 100000."},
+    {"face-index-overflow.asc",            -1, 0,
+     "Bad file format in tests/data/face-index-overflow.asc: face 0 has no vertex 9223372036854775807."},
+    {"face-index-wrap.asc",                -1, 0,
+     "Bad file format in tests/data/face-index-wrap.asc: face 0 has no vertex 4294967297."},
+    {"face-index-negative.asc",            -1, 0,
+     "Bad file format in tests/data/face-index-negative.asc: face 0 has no vertex -1."},
+    {"face-index-too-large.asc",           -1, 0,
+     "Bad file format in tests/data/face-index-too-large.asc: face 0 has no vertex 100000."},
 };
 // clang-format on
 
@@ -124,7 +128,7 @@ TEST_F(Loader, ReportsAFileThatMayNotBeRead) {
     std::string const path = temp.Write("secret.asc", "text");
     ASSERT_EQ(chmod(temp.Path("").c_str(), 0755), 0);
     ASSERT_EQ(chmod(path.c_str(), 0), 0);
-    bool const root = geteuid() == 0; // who may read every file
+    bool const root = geteuid() == 0; // root may read every file
     if (root && seteuid(nobody) != 0) GTEST_SKIP() << "root may read every file, and cannot become nobody here";
     EXPECT_EQ(Load(path), -1);
     EXPECT_THAT(printed, MatchesRegex(line_of("Could not open file " + path)));
@@ -137,7 +141,7 @@ TEST_F(Loader, PutsTheFolderInFrontOfTheNameAsItIs) {
     EXPECT_EQ(kore::AscModel("tests/data/go").LoadModel("od.asc"), 0);
 }
 
-TEST_F(Loader, AnswersOneOrZeroForThePerTriangleStore) {
+TEST_F(Loader, ReturnsOneOrZeroForThePerTriangleStore) {
     testing::internal::CaptureStdout();
     EXPECT_EQ(models.LoadModelFull("two-objects.asc"), 1);
     EXPECT_EQ(models.LoadModelFull("face-count-too-low.asc"), 0);
@@ -219,7 +223,7 @@ TEST_F(Loader, TakesAsMuchAsItsTablesHoldAndNoMore) {
 TEST_F(Loader, CountsLinesOfAnotherLayoutToo) {
     struct {
         int vertices, faces;
-        char const* last; ///< and the line that takes its place
+        char const* last; ///< and the line that replaces it
         char const* odd;
         char const* fault; ///< behind the name of the file
     } const meshes[] = {

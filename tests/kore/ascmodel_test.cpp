@@ -75,7 +75,7 @@ TEST_F(AscModel, DrawsTheEdgeCAByTheFlagOfBC) {
         {{0, 0, 0},  ""},
         {{1, 0, 0},  ab},
         {{0, 1, 0},  bc + ca},
-        {{0, 0, 1},  ""},           // CA's own flag counts for nothing
+        {{0, 0, 1},  ""},           // CA's own flag is ignored
         {{1, 0, 1},  ab},
         {{1, 1, 0},  ab + bc + ca},
         {{1, 1, 1},  ab + bc + ca},

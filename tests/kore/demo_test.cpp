@@ -106,7 +106,7 @@ TEST_F(Demo, HandsOutTimeSinceTheScenesFirstBeatOfTheGrid) {
     for (int at = 1; at < 16; ++at) Frame(at);
     Frame(16);
     StateData const& state = things[1]->last;
-    EXPECT_EQ(state.time, 16.1f * beat - static_cast<float>(16) * beat); // not 0: the switch comes a little late
+    EXPECT_EQ(state.time, 16.1f * beat - static_cast<float>(16) * beat); // not 0: the switch is a little late
     EXPECT_EQ(state.beat_count, 0);
     EXPECT_TRUE(state.new_beat);
     EXPECT_EQ(state.fps, 50);
@@ -128,7 +128,7 @@ TEST_F(Demo, SkipsOnTheNextCountedBeatOnly) {
     EXPECT_EQ(Drawn(), "B");
     EXPECT_EQ(things[1]->last.beat_count, 0);
     EXPECT_THAT(events, ElementsAre("start A", "stop A", "start B"));
-    Frame(5); // a request is granted once
+    Frame(5); // a request counts once
     EXPECT_EQ(Drawn(), "B");
     EXPECT_EQ(things[1]->last.beat_count, 1);
 }

@@ -65,7 +65,7 @@ TEST_F(Entity, LeavesTheMatrixStackAsItWas) {
     EXPECT_THAT(gl::errors(), testing::IsEmpty());
 }
 
-TEST_F(Entity, AddsUpIncrementsWithoutWrappingAngles) {
+TEST_F(Entity, AccumulatesIncrementsWithoutWrappingAngles) {
     for (int i = 0; i < 2; ++i) thing.IncRot({0, 10, 0});
     EXPECT_THAT(thing.GetRot(), Is(0, 20, 0));
     thing.IncRot({720, -1000, 0});

@@ -1,4 +1,4 @@
-// Plays through OpenAL's null output, which is silent and keeps the clock: CMakeLists.txt sets ALSOFT_DRIVERS.
+// Plays through OpenAL's null output, which is silent and keeps time: CMakeLists.txt sets ALSOFT_DRIVERS.
 
 #include "kore/music-sfml.h"
 #include "kore/musicvisualizer.h"
@@ -56,7 +56,7 @@ protected:
     std::string printed;
 };
 
-TEST_F(MusicSFML, SaysNothingOfAFileAtTheExpectedRate) {
+TEST_F(MusicSFML, PrintsNothingAboutAFileAtTheExpectedRate) {
     EXPECT_FALSE(Load(temp.Write("a.wav", wave(48000, 4800))));
     EXPECT_EQ(printed, "");
 }
@@ -96,7 +96,7 @@ TEST_F(MusicSFML, GoesOnWhereItWasPaused) {
     music.Play();
     Wait(250);
     EXPECT_GT(music.Position(), paused);
-    EXPECT_LT(music.Position(), paused + 2); // and not from somewhere else
+    EXPECT_LT(music.Position(), paused + 2); // and not from elsewhere
 }
 
 TEST_F(MusicSFML, IsAlwaysReadyAndNeverAtItsEnd) {
@@ -152,7 +152,7 @@ TEST(SoundDevice, LeavesStandardErrorAsItWas) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "heard");
 }
 
-TEST(SoundDevice, MayBeLookedForWhereNoFileCanBeOpened) {
+TEST(SoundDevice, CanBeProbedWhereNoFileCanBeOpened) {
     testing::internal::CaptureStderr();
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
@@ -164,8 +164,8 @@ TEST(SoundDevice, MayBeLookedForWhereNoFileCanBeOpened) {
     EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::EndsWith("heard"));
 }
 
-TEST(SoundDevice, IsMissedInOneLineAndTheShowIsSilent) {
-    if (kore::sound_device_available()) GTEST_SKIP() << "there is one: no_sound_test runs this without";
+TEST(SoundDevice, IsReportedMissingInOneLineAndTheShowIsSilent) {
+    if (kore::sound_device_available()) GTEST_SKIP() << "there is a sound device: no_sound_test runs this without one";
     support::TempFolder const temp;
     testing::internal::CaptureStderr();
     kore::MusicSFML music;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// Doubles that write down what the engine does with them.
+/// Test doubles that record what the engine does with them.
 namespace probes {
 
 constexpr float beat = 60.0f / 132; // seconds

@@ -119,7 +119,7 @@ private:
     Events& events;
 };
 
-TEST_F(Scene, TellsItsPreparationOfStartAndStopAndLetsItClear) {
+TEST_F(Scene, NotifiesItsPreparationOfStartAndStopAndLetsItClear) {
     scene.SetPrepare(std::make_shared<LoudPrepare>(events));
     scene.Start();
     scene.Stop();

@@ -11,7 +11,7 @@ using probes::IsExactly;
 
 namespace {
 
-/// What a route imposes at a time: the position of a thing, or the point that a camera looks at.
+/// What a route sets at a time: the position of an entity, or the point that a camera looks at.
 template<typename Route>
 struct Subject;
 

@@ -1,4 +1,4 @@
-// Plays the show's own soundtrack through OpenAL's null output, which is silent and keeps the clock.
+// Plays the show's own soundtrack through OpenAL's null output, which is silent and keeps time.
 
 #include "kore/music-sfml.h"
 #include "kore/readfile.h"
@@ -26,7 +26,7 @@ double mean(std::vector<double> const& values) {
     return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
 }
 
-/// Means over so many seconds of what the show's clock is ahead of the playing position, seconds.
+/// How far the show's clock is ahead of the playing position, seconds: means over stretches of that many seconds.
 std::vector<double> offsets(kore::MusicSFML& music, int seconds_each, int count) {
     std::vector<double> means;
     music.Play();
@@ -34,7 +34,7 @@ std::vector<double> offsets(kore::MusicSFML& music, int seconds_each, int count)
     for (int i = 0; i < count; ++i) {
         std::vector<double> samples;
         while (clock.getElapsedTime().asSeconds() < static_cast<float>((i + 1) * seconds_each)) {
-            // The position moves in steps of about 23 ms; samples at odd times see all of a step alike.
+            // The position moves in steps of about 23 ms; samples at irregular times cover a step evenly.
             std::this_thread::sleep_for(std::chrono::milliseconds(7));
             samples.push_back(clock.getElapsedTime().asSeconds() - music.Position());
         }
@@ -49,7 +49,7 @@ TEST(Soundtrack, KeepsStepWithTheShowsClockForAMinute) {
     auto const ahead = offsets(music, 10, 6);
     for (double const offset : ahead) {
         EXPECT_LT(std::abs(offset), 0.030);
-        // No growth: what the first ten seconds have, the last have.
+        // No drift: the offset of the first ten seconds is that of the last.
         EXPECT_NEAR(offset, ahead.front(), 0.005);
     }
     RecordProperty("first_milliseconds", std::to_string(ahead.front() * 1000));
@@ -74,7 +74,7 @@ TEST(Soundtrack, IsReportedWhereHardlyAnythingOfItsFileIsLeft) {
     testing::internal::CaptureStdout();
     EXPECT_TRUE(music.LoadFromFile(temp.Write("stump.ogg", contents(soundtrack).substr(0, 40)), rate));
     EXPECT_THAT(testing::internal::GetCapturedStdout(), testing::HasSubstr("Failed to open music from file "));
-    music.Play(); // nothing to play, and no harm
+    music.Play(); // nothing to play; must not fail
     EXPECT_EQ(music.Position(), 0);
 }
 

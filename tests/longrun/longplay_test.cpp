@@ -1,4 +1,4 @@
-// The longest show there is: somebody with the debugging keys skips scenes for 75 minutes.
+// The longest possible show: somebody skips scenes with the debugging keys for 75 minutes.
 
 #include "main.h"
 #include "tests/show/scores.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr float frame_rate = 60;
 
-/// Plays without drawing and keeps count of the scene that must be on.
+/// Plays without drawing and keeps track of the scene that must be on.
 class LongPlay : public testing::Test {
 protected:
     LongPlay() {
@@ -34,8 +34,8 @@ protected:
     int CurrentLength() { return demo.GetScenes()[current]->GetLength(); }
     kore::StateData const& State() const { return playback.State(); }
 
-    /// Once a beat, before the frame that counts the next: skips at random, and always out of the last scene's last
-    /// beats, for their end is the end of the show.
+    /// Once a beat, before the frame that counts the next: skips at random, and always in the last beats of the last
+    /// scene, which would end the show.
     void Keys() {
         int const left = scene_start + CurrentLength() - State().beat_count;
         bool const must = current == last_scene && left <= 1;
@@ -67,7 +67,7 @@ protected:
     std::vector<int> starts = std::vector<int>(running_order().size());
 };
 
-TEST_F(LongPlay, EndsBehindBeat9998WhateverIsSkipped) {
+TEST_F(LongPlay, EndsAfterBeat9998WhateverIsSkipped) {
     do {
         Frame();
         if (HasFatalFailure()) return;

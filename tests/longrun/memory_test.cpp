@@ -1,4 +1,4 @@
-// Ten shows in one process leave no more memory taken than two. Allocates by operators that count.
+// Ten shows in one process use no more memory than two. Allocates by counting operators.
 
 #include "tests/show/scores.h"
 #include "tests/show/wholeshow.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t shows = 10;
 constexpr std::size_t warm_up = 2;
 
-/// @return memory that the process has resident, KiB; what is free in the heap has been given back
+/// @return resident memory of the process, KiB, after the heap has returned its free pages
 long resident() {
     malloc_trim(0);
     std::ifstream statm("/proc/self/statm");
@@ -51,8 +51,8 @@ TEST(Memory, IsFlatOverTenShows) {
     Taken const warm = after[warm_up - 1];
     for (std::size_t show = warm_up; show < shows; ++show) {
         EXPECT_EQ(after[show].blocks, warm.blocks) << "after show " << show + 1;
-#ifndef __SANITIZE_ADDRESS__        // which keeps what is freed, and looks for leaks itself
-        constexpr long slack = 128; // KiB: the heap's holes lie elsewhere in each show
+#ifndef __SANITIZE_ADDRESS__        // it keeps freed memory, and looks for leaks itself
+        constexpr long slack = 128; // KiB: the heap is fragmented differently in each show
         EXPECT_LE(after[show].kib, warm.kib + slack) << "after show " << show + 1;
 #endif
     }

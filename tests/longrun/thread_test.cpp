@@ -1,4 +1,4 @@
-// Playing, pausing and ending the music, as fast as it goes, beside the thread that streams it. The preset `tsan` runs
+// Playing, pausing and ending the music as fast as possible, while another thread streams it. The preset `tsan` runs
 // this under ThreadSanitizer.
 
 #include "kore/music-sfml.h"
@@ -25,7 +25,7 @@ protected:
         if (!kore::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
     }
 
-    /// @return a player of so much silence
+    /// @return a player of that much silence
     std::unique_ptr<kore::MusicSFML> Load(int milliseconds) const {
         std::string const path = temp.Path("silence.wav");
         {

@@ -8,7 +8,7 @@ int main() {
     std::filesystem::current_path(HARDSILENCE_SOURCE_DIR);
     Studio studio;
     if (!studio.Open()) {
-        std::cerr << "There is nothing to draw with." << std::endl;
+        std::cerr << "OpenGL cannot draw off-screen here." << std::endl;
         return 1;
     }
     std::filesystem::remove_all("tests/pictures/reference");

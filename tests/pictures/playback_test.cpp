@@ -1,11 +1,11 @@
-#include "difference.h"
 #include "studio.h"
+#include "tests/support/images.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// A moment of each scene that follows on something drawn: a change of scenes, a break, a flip, a flash.
+/// Moments that might depend on what was drawn before: after a change of scenes, a break, a flip, a flash.
 struct Window {
     char const* scene;
     Millibeats from; ///< every frame is drawn from here
@@ -14,17 +14,18 @@ struct Window {
 
 // clang-format off
 constexpr Window windows[] = {
-    {"intro",    0,     13000},
-    {"gungirl",  0,     1500},
-    {"gungirl",  15500, 17000},
-    {"swapper",  3500,  4600},
-    {"credits",  0,     1300},
-    {"tunnelgate",     0,     1000},
-    {"tunnelgate",     51500, 52500},
-    {"plasma",   0,     700},
-    {"fountain", 0,     1000},
-    {"fountain", 36000, 37000},
-    {"greets",   0,     1500},
+    // scene       from   to
+    {"intro",      0,     13000},
+    {"gungirl",    0,     1500},
+    {"gungirl",    15500, 17000},
+    {"swapper",    3500,  4600},
+    {"credits",    0,     1300},
+    {"tunnelgate", 0,     1000},
+    {"tunnelgate", 51500, 52500},
+    {"plasma",     0,     700},
+    {"fountain",   0,     1000},
+    {"fountain",   36000, 37000},
+    {"greets",     0,     1500},
 };
 // clang-format on
 
@@ -39,7 +40,7 @@ TEST(Playback, LooksTheSameWhetherTheFramesBeforeWereDrawnOrNot) {
     std::vector<sf::Image> wanted_only;
     {
         Studio studio;
-        ASSERT_TRUE(studio.Open()) << "there is nothing to draw with";
+        ASSERT_TRUE(studio.Open()) << "OpenGL cannot draw off-screen here";
         for (Window const& window : windows) {
             wanted_only.push_back(studio.Picture(studio.FrameOf(window.scene, window.to)));
         }

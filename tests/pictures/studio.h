@@ -9,7 +9,7 @@
 
 #include <string>
 
-/// A show of one's own, off-screen, with the pulse wire visible on every driver.
+/// An off-screen show with the pulse wire visible on every driver.
 struct Studio {
     static constexpr unsigned int width = 256;
     static constexpr unsigned int height = 192;
@@ -20,7 +20,7 @@ struct Studio {
     Playback playback{demo, recorded_rate};
     Timetable timetable;
 
-    /// @return false where there is nothing to draw with
+    /// @return false where OpenGL cannot draw off-screen
     bool Open() {
         if (!context.Open() || !framebuffer.Create(width, height, 4)) return false;
         init_gl();
@@ -30,12 +30,12 @@ struct Studio {
         return true;
     }
 
-    /// The frame of a moment of a scene.
+    /// The frame that shows a moment of a scene.
     int FrameOf(std::string const& scene, Millibeats at) const {
         return frame_at(find_scene(timetable, scene)->Begin() + at);
     }
 
-    /// Plays up to a frame that has not been played yet.
+    /// Plays up to a frame and draws it; it must not have been played yet.
     sf::Image Picture(int frame) {
         playback.SkipTo(frame);
         playback.Draw();

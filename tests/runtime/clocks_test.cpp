@@ -1,4 +1,5 @@
 #include "runtime/beatclock.h"
+#include "tests/show/scores.h"
 
 #include <bit>
 #include <cmath>
@@ -85,8 +86,8 @@ TEST_F(BeatClock, KeepsToItsGridAfterAStall) {
 
 TEST_F(BeatClock, DoesNotDriftFromTheTempoOverTheShow) {
     // The sum of float beats: a millisecond at most at the show's end.
-    for (int frame = 0; state.beat_count < 384; ++frame) At(static_cast<float>(frame) / 1000);
-    EXPECT_NEAR(state.time, 384 * 60 / 132.0, 0.002);
+    for (int frame = 0; state.beat_count < scores::show_beats; ++frame) At(static_cast<float>(frame) / 1000);
+    EXPECT_NEAR(state.time, scores::show_beats * 60 / 132.0, 0.002);
 }
 
 TEST(PauseClock, IsTheClockUntilTheFirstPause) {

@@ -123,7 +123,7 @@ TEST(DebugCamera, IsNeverSlowerThanATenth) {
     EXPECT_NE(view.Speed(), 0.1f);
 }
 
-TEST(DebugCamera, LetsGoOfItsKeysButKeepsItsTarget) {
+TEST(DebugCamera, ReleasesItsKeysButKeepsItsTarget) {
     DebugCamera view;
     view.ToggleTarget();
     view.Hold(movement_x_left | movement_rot_z_fw);

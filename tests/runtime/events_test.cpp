@@ -73,7 +73,7 @@ protected:
         handle_event(controls, event);
     }
 
-    /// Everything that events may change, put together so that it compares.
+    /// Everything that events may change, as one text to compare.
     std::string Everything() {
         auto const text = [](kore::Vector3<float> const& v) {
             return std::to_string(v.x) + "," + std::to_string(v.y) + "," + std::to_string(v.z) + " ";
@@ -166,7 +166,7 @@ TEST_F(Events, HoldMovementsFromPressToRelease) {
     EXPECT_EQ(controls.view.HeldMovement(), movement_y_up);
 }
 
-TEST_F(Events, LetGoOfMovementsWhenTheKeyboardIsLost) {
+TEST_F(Events, ReleaseMovementsWhenTheKeyboardIsLost) {
     Press(Key::O);
     Press(Key::Z);
     Send(sf::Event::LostFocus);
@@ -265,7 +265,7 @@ TEST_F(Events, EndTheShowByCloseByItsOwnEndOrAtBeat9999) {
     EXPECT_TRUE(show_over(300, demo));
 }
 
-TEST_F(Events, OfKeysDoNothingButEscapeWithoutMagic) {
+TEST_F(Events, OfKeysDoNothingExceptEscapeWithoutMagic) {
     mushroom_mode = false;
     std::string const before = Everything();
     for (int key = Key::Unknown; key < Key::KeyCount; ++key) {
@@ -288,7 +288,7 @@ TEST_F(Events, OfOtherKindsDoNothing) {
     }
 }
 
-/// Runs the frame counter, whose counts live as long as the program, in a process of its own.
+/// Runs the frame counter, whose counts are static, in a process of its own.
 /// @param frames  frames of a tenth of an interval
 void count_frames(bool print, int frames) {
     fps_counter = print;

@@ -25,7 +25,7 @@ TEST(InitGl, SetsTheFixedStateInOrder) {
     EXPECT_TRUE(gl::errors().empty());
 }
 
-/// Notes when it is updated, in the log of OpenGL's calls.
+/// Logs its updates among the OpenGL calls.
 class Marker final : public kore::Entity {
 public:
     char const* Name() override { return "Marker"; }
@@ -44,7 +44,7 @@ protected:
         scene->AddCamera(std::make_shared<kore::Enabler>(camera, 0, 4, 1.0f, true));
         scene->AddEnabler(std::make_shared<kore::Enabler>(std::make_shared<Marker>(), 0, 4, 1.0f, true));
         demo.AddScene(scene);
-        glTranslatef(1, 2, 3); // left over by the frame before
+        glTranslatef(1, 2, 3); // left over from the frame before
         gl::clear_log();
     }
     static constexpr float beat = 1; // seconds

@@ -28,7 +28,7 @@ Command line parameters:
 
 )";
 
-/// The settings, put together so that they compare.
+/// The settings, as one text to compare.
 std::string settings() {
     std::string text = "style " + std::to_string(video_fullscreen);
     text += ", " + std::to_string(resolution_x) + "x" + std::to_string(resolution_y);
@@ -41,7 +41,7 @@ std::string settings() {
     return text;
 }
 
-/// Sets everything back to what the program starts with.
+/// Restores all settings to those at program start.
 class MainTest : public testing::Test {
 protected:
     MainTest() { Reset(); }
@@ -237,7 +237,7 @@ TEST(MyAtoi, ReadsTheNumberAtTheStart) {
     for (auto const& row : rows) EXPECT_EQ(my_atoi(row.text), row.number) << row.text;
 }
 
-/// Notes what is asked of it.
+/// Records the calls made to it.
 class FakeMusic final : public kore::Music {
 public:
     bool LoadFromFile(std::string const& file, int const& frequency) override {

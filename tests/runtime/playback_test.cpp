@@ -13,7 +13,7 @@ namespace {
 constexpr float beat = 0.5f; // seconds
 constexpr float rate = 8;    // frames per second: four a beat
 
-/// Writes down what it is told.
+/// Records the frames that it gets.
 class Diary final : public kore::Entity {
 public:
     char const* Name() override { return "Diary"; }

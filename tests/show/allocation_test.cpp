@@ -2,6 +2,7 @@
 #include "tests/show/wholeshow.h"
 #include "tests/support/allocations.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
@@ -36,7 +37,8 @@ TEST(Allocation, HappensInNoFrameAfterTheFirstOfAScene) {
         EXPECT_EQ(made, 0) << name;
         all += made;
     }
-    EXPECT_GT(frames, 10000);
+    // 60 a second at 132 beats a minute, up to and including the one that ends the show.
+    EXPECT_EQ(frames, static_cast<long>(std::ceil(scores::show_beats * 60 * 60 / 132.0)) + 1);
     std::cout << all << " allocations in " << frames << " frames\n";
 }
 

@@ -1,4 +1,4 @@
-// The stream of OpenGL calls is the product: every call of every frame, against checksums that were taken once.
+// The stream of OpenGL calls is the product: every call of every frame, compared with recorded checksums.
 
 #include "tests/show/scores.h"
 #include "tests/show/wholeshow.h"

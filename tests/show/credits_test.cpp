@@ -47,7 +47,7 @@ TEST(Credits, StrobesTheWallWithEveryDancerAndNeverTheText) {
     EXPECT_EQ(text, 0);
 }
 
-TEST(Credits, StandsItsDancersAtOnePlaceAndTheTextInFront) {
+TEST(Credits, PutsItsDancersInOnePlaceAndTheTextInFront) {
     Stage s(credits_scene);
     EXPECT_THAT(camera(s.PlayTo(5.5)), near({0, 0, 4.8, 0, 0, 0}));
     expect_matrix(Stage::Find("sideview_silhouette").model_view, [] {

@@ -76,7 +76,7 @@ TEST(Fountain, TurnsTheFountainAndEachShellAtARateOfItsOwn) {
     }
 }
 
-/// The frames of the fountain scene's first two seconds on which an object is drawn in the other colour.
+/// The frames of the fountain scene's first two seconds on which an object has the other colour.
 std::vector<int> flashes(std::size_t enabler, char const* name, float flash) {
     Stage s(fountain_scene);
     std::vector<int> frames;
@@ -89,8 +89,8 @@ std::vector<int> flashes(std::size_t enabler, char const* name, float flash) {
 }
 
 TEST(Fountain, FlashesItsShellsOneAfterTheOther) {
-    // Four flashes on every other frame. An event is heard by what has started: on the first frame nothing has, since
-    // the blinkers come first.
+    // Four flashes on every other frame. An event reaches what has started: on the first frame nothing has, since the
+    // blinkers come first.
     EXPECT_THAT(flashes(6, "hollowsoccerball", 1), ElementsAre(6, 8, 10, 12, 115, 117, 119));
     EXPECT_THAT(flashes(7, "frameoctoball", 0), ElementsAre(11, 13, 15, 17));
     EXPECT_THAT(flashes(8, "frameicosahedron", 1), ElementsAre(17, 19, 21, 23));
@@ -134,7 +134,7 @@ TEST(Greets, SendsThemAlongTheCamerasLineOfSight) {
         for (std::size_t k = 0; k < 8; ++k) {
             double const f =
                 (static_cast<double>(s.Time()) / static_cast<double>(beat) - 2 * static_cast<double>(k)) / 16;
-            if (f < 0.02 || f >= 1) continue; // a jump takes the first frame
+            if (f < 0.02 || f >= 1) continue; // the jump takes the first frame
             std::vector<double> expected;
             for (std::size_t axis = 0; axis < 3; ++axis) expected.push_back(from[axis] + f * (to[axis] - from[axis]));
             EXPECT_THAT(values(s.Entity(9 + k).GetPos()), near(expected, 1e-2)) << greetings[k];
@@ -142,7 +142,7 @@ TEST(Greets, SendsThemAlongTheCamerasLineOfSight) {
     }
 }
 
-TEST(Greets, TumblesThemFromTheirOwnFirstFrames) {
+TEST(Greets, TumblesThemFromTheirOwnFirstFrame) {
     Stage s(greets_scene);
     s.PlayTo(4);
     float const first = s.Time();
@@ -151,7 +151,7 @@ TEST(Greets, TumblesThemFromTheirOwnFirstFrames) {
     EXPECT_THAT(values(s.Entity(11).GetRot()), near({100 * t, 10 * t, 0}, 1e-2)); // and not from 90 degrees
 }
 
-TEST(Greets, StandsTheFountainStill) {
+TEST(Greets, KeepsTheFountainStill) {
     Stage s(greets_scene);
     s.PlayTo(20);
     EXPECT_THAT(values(s.Entity(5).GetRot()), ElementsAre(0, 0, 0));

@@ -6,7 +6,7 @@ using testing::HasSubstr;
 
 namespace {
 
-TEST(GunGirl, PutsItsFigureTogetherAndThenShowsItWithTheGyro) {
+TEST(GunGirl, AssemblesItsFigureAndThenShowsItWithTheGyro) {
     Names const pieces = {"gungirl_silhouette#:0", "gungirl_silhouette#/lines:1"};
     Names const all = {"gungirl_silhouette:0", "donut2:0", "donut2/lines:1"};
     expect_moments(gungirl_scene,
@@ -76,7 +76,7 @@ TEST(GunGirl, HoldsTheGyroFarBehindAndLosesAMatrixToIt) {
         ElementsAre(testing::DoubleNear(0, 1e-6), testing::DoubleNear(-2.6, 1e-6), testing::DoubleNear(-92.3, 1e-5)));
     EXPECT_THAT(gl::errors(), ElementsAre("STACK_UNDERFLOW PopMatrix"));
     EXPECT_EQ(gl::model_view_depth(), 1u);
-    // The wall stands where it stands in every scene.
+    // The wall is where it is in every scene.
     EXPECT_THAT(gl::transform(Stage::Find("tile", 900).model_view, 0, 0, 0), ElementsAre(0, 0, -1600));
 }
 

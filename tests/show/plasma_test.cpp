@@ -6,7 +6,7 @@ using namespace scenes;
 
 namespace {
 
-TEST(Plasma, StandsThreeTitlesBeforeTheMountain) {
+TEST(Plasma, PutsThreeTitlesInFrontOfTheMountain) {
     expect_names(plasma_scene, 10, {"QUILLONx-title", "HARD-title", "SILENCE-title", "tile"});
     Stage s(plasma_scene);
     EXPECT_THAT(camera(s.PlayTo(1)), near({0, 0, 31, 0, 0, 0}));
@@ -44,7 +44,7 @@ TEST(Plasma, StrobesTheTitlesOnEveryOtherFrameAndNothingElse) {
     }
     EXPECT_EQ(titles, "#.#.#.#.#.#.");
     EXPECT_EQ(wall, "............");
-    // Still at the end of the scene: 9000 flashes last longer.
+    // Still at the end of the scene: 9000 flashes outlast it.
     s.PlayTo(31.8).Draw();
     auto const color = Stage::Find("HARD-title").color;
     s.Step();

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Gives the ranges instead of numbers out of them.
+/// Returns the ranges instead of numbers drawn from them.
 class Ranges final : public Scatter {
 public:
     using Scatter::Scatter;

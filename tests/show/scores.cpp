@@ -241,4 +241,10 @@ std::vector<Score> const& all() {
     return scores;
 }
 
+int first_beat(std::size_t scene) {
+    int beats = 0;
+    for (std::size_t i = 0; i < scene; ++i) beats += all().at(i).length;
+    return beats;
+}
+
 } // namespace scores

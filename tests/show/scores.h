@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The show once more, in tables of the tests' own: what is in its scenes, and when.
+/// The show a second time, in the tests' own tables: what is in its scenes, and when.
 namespace scores {
 
 using Type = kore::BlinkerInterface::BlinkerType;
@@ -38,7 +38,7 @@ struct Score {
     SceneFunction make;
     int length;           ///< beats
     std::uint64_t calls;  ///< of OpenGL, over all frames of the scene at 60 frames a second
-    std::uint64_t stream; ///< their checksum, see callstream_test.cpp, which prints it where it differs
+    std::uint64_t stream; ///< their checksum; callstream_test.cpp prints it if it differs
     std::vector<Window> windows;
     std::vector<std::vector<Event>> blinks;        ///< of each blinker, in the order of the enablers
     std::vector<std::vector<std::size_t>> targets; ///< of each blinker: indices of enablers
@@ -46,6 +46,10 @@ struct Score {
 
 /// All scenes, in the order of the show.
 std::vector<Score> const& all();
+
+/// The show beat on which a scene begins.
+/// @param scene  its place in the order of the show, from 0
+int first_beat(std::size_t scene);
 
 /// Length of the show, beats.
 constexpr int show_beats = 384;

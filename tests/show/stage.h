@@ -31,17 +31,18 @@ public:
     /// Updates one frame.
     void Step() { playback.Skip(); }
 
-    /// Draws the frame, after forgetting what was logged before.
+    /// Clears the log and draws the frame.
     void Draw();
 
-    /// Draws one enabler's entity by itself, in no view.
+    /// Draws one enabler's entity by itself, without a camera.
     void DrawOnly(std::size_t enabler);
 
-    /// Draws the frame. Every list that is drawn, once, in the order of its first time: "name:grey level". The edges of
-    /// an object are "name/lines", its single triangles "name#", the backdrop's tiles "tile".
+    /// Draws the frame.
+    /// @return every list drawn, once, in the order of first use: "name:grey level". The edges of an object are
+    ///         "name/lines", its single triangles "name#", the backdrop's tiles "tile".
     std::vector<std::string> Seen();
 
-    /// The same without colours, for frames in which a strobe runs.
+    /// The same without colours, for frames during a strobe.
     std::vector<std::string> SeenNames();
 
     /// How often lists of this name were drawn in the frame that was drawn last.
@@ -59,7 +60,7 @@ private:
     Playback playback;
 };
 
-/// Gives the lists of the model library the names that Stage::Seen tells.
+/// Gives the lists of the model library the names that Stage::Seen returns.
 void name_lists();
 
 } // namespace stage

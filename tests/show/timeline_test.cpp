@@ -1,10 +1,12 @@
-// Every scene's timeline against tables of its own: who is on when, which events fire when, and who hears them.
+// Every scene's timeline, compared with tables of its own: what is on when, which events fire when, and whom they
+// reach.
 
 #include "effekt/blinker.h"
 #include "tests/show/scores.h"
 #include "tests/show/stage.h"
 
 #include <algorithm>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -26,7 +28,7 @@ std::vector<effect::Blinker*> blinkers_of(kore::Scene& scene) {
     return blinkers;
 }
 
-/// A target that writes down what reaches it.
+/// A target that records what reaches it.
 class Ear final : public kore::BlinkerInterface {
 public:
     void Blink(BlinkerType const& type, int const& value) override { heard.push_back({now, type, value}); }
@@ -73,51 +75,43 @@ TEST(Timeline, HasEveryEnablerInItsPlace) {
     }
 }
 
-TEST(Timeline, FiresEveryEventAtItsTime) {
+/// Runs every blinker of every scene alone.
+/// @param step            hundredths of a beat
+/// @param length_of_beat  seconds
+/// @param expected        gives what a blinker with these events should fire
+void expect_blinks(int step, float length_of_beat,
+                   std::function<std::vector<Event>(std::vector<Event> const&)> const& expected) {
     for (Score const& score : scores::all()) {
         SCOPED_TRACE(score.title);
-        stage::Stage s(score.make);
-        auto const blinkers = blinkers_of(s.Scene());
-        ASSERT_EQ(blinkers.size(), score.blinks.size());
-        for (std::size_t b = 0; b < blinkers.size(); ++b) {
-            SCOPED_TRACE(testing::Message() << "blinker " << b);
-            EXPECT_THAT(listen(*blinkers[b], 1, beat), testing::ElementsAreArray(in_order_of_time(score.blinks[b])));
-        }
-    }
-}
-
-TEST(Timeline, KeepsEveryEventForTwoBeats) {
-    for (Score const& score : scores::all()) {
-        SCOPED_TRACE(score.title);
-        stage::Stage s(score.make);
-        auto const blinkers = blinkers_of(s.Scene());
-        ASSERT_EQ(blinkers.size(), score.blinks.size());
-        for (std::size_t b = 0; b < blinkers.size(); ++b) {
-            SCOPED_TRACE(testing::Message() << "blinker " << b);
-            // Frames five beats apart: what begins in the two beats before one fires there, in the order of the
-            // entries, and the rest never does.
-            std::vector<Event> expected;
-            for (int at = 0; at <= last_time; at += 500) {
-                for (Event const& e : score.blinks[b]) {
-                    if (e.at <= at && at < e.at + 200) expected.push_back({at, e.type, e.value});
-                }
-            }
-            EXPECT_THAT(listen(*blinkers[b], 500, beat), testing::ElementsAreArray(expected));
-        }
-    }
-}
-
-TEST(Timeline, MovesWithTheTempo) {
-    constexpr float slow = 1.5f; // seconds
-    for (Score const& score : scores::all()) {
-        SCOPED_TRACE(score.title);
-        stage::Stage s(score.make, slow);
+        stage::Stage s(score.make, length_of_beat);
         EXPECT_EQ(s.Scene().GetLength(), score.length);
         auto const blinkers = blinkers_of(s.Scene());
+        ASSERT_EQ(blinkers.size(), score.blinks.size());
         for (std::size_t b = 0; b < blinkers.size(); ++b) {
-            EXPECT_THAT(listen(*blinkers[b], 1, slow), testing::ElementsAreArray(in_order_of_time(score.blinks[b])));
+            SCOPED_TRACE(testing::Message() << "blinker " << b);
+            EXPECT_THAT(listen(*blinkers[b], step, length_of_beat),
+                        testing::ElementsAreArray(expected(score.blinks[b])));
         }
     }
+}
+
+TEST(Timeline, FiresEveryEventAtItsTime) { expect_blinks(1, beat, in_order_of_time); }
+
+TEST(Timeline, MovesWithTheTempo) { expect_blinks(1, 1.5f, in_order_of_time); }
+
+TEST(Timeline, KeepsEveryEventForTwoBeats) {
+    // Frames five beats apart: what begins in the two beats before one fires there, in the order of the entries, and
+    // the rest never does.
+    constexpr int step = 500;
+    expect_blinks(step, beat, [](std::vector<Event> const& events) {
+        std::vector<Event> expected;
+        for (int at = 0; at <= last_time; at += step) {
+            for (Event const& e : events) {
+                if (e.at <= at && at < e.at + 200) expected.push_back({at, e.type, e.value});
+            }
+        }
+        return expected;
+    });
 }
 
 /// The grey level that an effect would draw with.
@@ -129,7 +123,7 @@ int level(kore::BlinkerInterface& effect) {
     return grey;
 }
 
-TEST(Timeline, TellsEachBlinkersOwnTargetsOnly) {
+TEST(Timeline, ReachesEachBlinkersOwnTargetsOnly) {
     for (Score const& score : scores::all()) {
         SCOPED_TRACE(score.title);
         stage::Stage s(score.make);
@@ -138,7 +132,7 @@ TEST(Timeline, TellsEachBlinkersOwnTargetsOnly) {
         std::vector<kore::BlinkerInterface*> effects;
         for (std::size_t i = 0; i < count; ++i) {
             effects.push_back(dynamic_cast<kore::BlinkerInterface*>(&s.Entity(i)));
-            if (effects.back()) s.Entity(i).UpdateLogic({}); // now it hears
+            if (effects.back()) s.Entity(i).UpdateLogic({}); // now events reach it
         }
         for (std::size_t b = 0; b < blinkers.size(); ++b) {
             std::vector<std::size_t> reached;

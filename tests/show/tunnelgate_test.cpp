@@ -21,8 +21,7 @@ constexpr double path[9][3] = {
     {10,  50,  -340},
     {-10, 30,  -400},
 };
-// clang-format on
-// clang-format off
+
 constexpr double aims[9][3] = {
     {-5,   -10, -40},
     {5,    20,  -90},
@@ -62,7 +61,7 @@ TEST(Tunnelgate, FliesAlongItsPathLookingAlongAnother) {
 }
 
 TEST(Tunnelgate, FlashesTwiceOnEveryBeatButTheFirst) {
-    // On the first frame nobody has started to listen: the blinker comes before what it tells.
+    // On the first frame nothing has started yet: the blinker comes before its targets.
     Stage s(wire_scene);
     std::vector<int> flashes(73, 0);
     while (s.Time() < 71.9f * beat) {
@@ -75,7 +74,7 @@ TEST(Tunnelgate, FlashesTwiceOnEveryBeatButTheFirst) {
     for (std::size_t b = 1; b < 72; ++b) EXPECT_EQ(flashes[b], 2) << "beat " << b;
 }
 
-/// What is drawn at a beat with a look.
+/// What is drawn at a beat with these look settings.
 std::vector<gl::Draw> drawn(effect::Look const& wanted, double at) {
     support::WithLook const look(wanted);
     Stage s(wire_scene);
@@ -88,7 +87,7 @@ std::string calls(effect::Look const& wanted) {
     return gl::calls();
 }
 
-TEST(Tunnelgate, DrawsItsWireInsideOnePrimitiveUnlessToldOtherwise) {
+TEST(Tunnelgate, DrawsItsWireInsideOnePrimitiveByDefault) {
     std::string const bracketed = "Begin(QUADS) PushMatrix Translate(0,0,0) PushMatrix Rotate(0,0,0,90) Color(0,0,0) "
                                   "CallList(torus2) Color(1,1,1) CallList(torus2/lines) PopMatrix PopMatrix PushMatrix";
     EXPECT_THAT(calls({}), HasSubstr(bracketed));
@@ -102,7 +101,7 @@ TEST(Tunnelgate, LooksTheSameByTheStandardWithBothKindsOfCalls) {
         auto const standard = drawn(support::standard_wire, at);
         ASSERT_EQ(bracketed.size(), standard.size());
         ASSERT_EQ(bracketed.size(), 2 * 99 + 2 + 901u);
-        // The first torus's faces are handed over in another way; everything after it is the same.
+        // The first torus's faces are issued differently; everything after it is the same.
         EXPECT_TRUE(bracketed[0].inside_primitive);
         EXPECT_TRUE(standard[0].inside_primitive);
         for (std::size_t i = 0; i < bracketed.size(); ++i) {
@@ -119,11 +118,11 @@ TEST(Tunnelgate, RaisesNoErrorInsideTheWireWithTheStandardsCalls) {
     support::WithLook const look(support::standard_wire);
     Stage s(wire_scene);
     s.PlayTo(1.5).Draw();
-    // What is left are the pops of matrices that the first torus has taken away.
+    // Only the pops of matrices that the first torus has taken away remain.
     EXPECT_THAT(gl::errors(), testing::Each("STACK_UNDERFLOW PopMatrix"));
 }
 
-TEST(Tunnelgate, StandsTheTentaclesFixedBeforeTheViewerByTheStandard) {
+TEST(Tunnelgate, FixesTheTentaclesInFrontOfTheViewerByTheStandard) {
     for (double const at : {1.5, 40.0}) {
         auto const draws = drawn({}, at);
         ASSERT_EQ(draws[198].name, "tentacles_silhouette");

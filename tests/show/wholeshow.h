@@ -9,7 +9,7 @@
 /// Plays the whole show in virtual time, with the frame code of the program.
 namespace wholeshow {
 
-/// Tells when its scene starts, and clears the picture as ever.
+/// Reports when its scene starts, and clears the picture as usual.
 class StartNotice final : public kore::ScenePrepare {
 public:
     explicit StartNotice(std::function<void()> notice_) : notice(std::move(notice_)) {}

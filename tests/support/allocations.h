@@ -1,9 +1,9 @@
 #pragma once
 
-/// Programs that link tests/support/allocations.cpp allocate by operators of their own, which count.
+/// Programs that link tests/support/allocations.cpp count their allocations.
 namespace allocations {
 
 extern long made; ///< blocks so far
-extern long live; ///< blocks that have not been given back
+extern long live; ///< blocks not yet freed
 
 } // namespace allocations

@@ -216,7 +216,7 @@ void glTexParameteri(GLenum, GLenum name, GLint value) {
 }
 void glTexImage2D(GLenum, GLint level, GLint components, GLsizei width, GLsizei height, GLint border, GLenum, GLenum,
                   void const* texels) {
-    // Reads what the driver would read: three bytes a texel.
+    // Reads what a driver would read: three bytes a texel.
     auto const* bytes = static_cast<unsigned char const*>(texels);
     double sum = 0;
     for (long i = 0; i < 3L * width * height; ++i) sum += bytes[i];

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double degrees = 3.14159265358979323846 / 180;
 
-/// Multiplies onto the current matrix, unless that is forbidden here.
+/// Multiplies onto the current matrix, unless inside a primitive.
 void multiply_top(std::string_view call, Matrix const& m) {
     if (state().in_primitive) {
         raise("INVALID_OPERATION", call);

@@ -1,5 +1,5 @@
-// An OpenGL whose entry points do nothing, not even allocate: what is left is the program's own work. A program that
-// watches some of the calls defines those itself, and its own are taken.
+// An OpenGL whose entry points do nothing, not even allocate: only the program's own work remains. A program that
+// watches some of the calls defines those itself; its definitions take precedence.
 
 #include <GL/gl.h>
 #include <GL/glu.h>

@@ -6,8 +6,8 @@
 #include <vector>
 
 /// A stand-in for OpenGL and GLU: defines the entry points that the show uses, logs every call, keeps true matrix
-/// stacks with the standard's error rules, and compiles display lists. Link it instead of the driver's library; no
-/// window or context is needed.
+/// stacks with the standard's error rules, and compiles display lists. Link it instead of the driver's library; it
+/// needs no window and no context.
 namespace gl {
 
 /// Column-major, as OpenGL has it: element (row, column) at [column * 4 + row].
@@ -33,22 +33,22 @@ void reset(Logging logging = Logging::Text);
 /// Forgets what was logged, drawn and counted; lists and matrices stay.
 void clear_log();
 
-/// The calls since the last clear, separated by blanks: "PushMatrix Translate(0,5,0) CallList(word) PopMatrix".
-/// Numbers are printed as by %g, enumerants by name; what goes into a list under compilation is not part of it.
+/// The calls since the last clear, separated by spaces: "PushMatrix Translate(0,5,0) CallList(word) PopMatrix".
+/// Numbers are printed by %g, enumerants by name; calls compiled into a list are left out.
 std::string calls();
 
-/// The same, one entry a call.
+/// The same, one entry per call.
 std::vector<std::string> const& call_list();
 
-/// How many calls, and a checksum of all of them with all arguments, bit by bit; in both kinds of logging. A list
-/// counts by what it holds and not by its number.
+/// The number of calls, and a checksum of all calls and arguments, bit by bit; in both kinds of logging. A list counts
+/// by its content, not by its number.
 std::uint64_t call_count();
 std::uint64_t checksum();
 
 /// Every glCallList since the last clear, in order (Logging::Text only).
 std::vector<Draw> const& draws();
 
-/// What a list holds, as calls() prints it; "" for a name without a list.
+/// The content of a list, as calls() prints it; "" for a name without a list.
 std::string list_content(unsigned int list);
 
 /// Shows a list under this name in the log instead of its number.
@@ -57,7 +57,8 @@ void name_list(unsigned int list, std::string const& name);
 /// How many lists have been compiled.
 std::size_t list_count();
 
-/// The model-view matrix on top of its stack, how many matrices are on it (at least 1), and the projection's top.
+/// The top of the model-view stack, the number of matrices on that stack (at least 1), and the top of the projection
+/// stack.
 Matrix const& model_view();
 std::size_t model_view_depth();
 Matrix const& projection();
@@ -69,7 +70,7 @@ bool inside_primitive();
 /// are logged and have no effect, as the standard demands.
 std::vector<std::string> const& errors();
 
-/// A point of the unit's own coordinates, seen through a matrix.
+/// A point, transformed by a matrix.
 std::array<double, 3> transform(Matrix const& matrix, double x, double y, double z);
 
 } // namespace gl

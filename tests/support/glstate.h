@@ -6,10 +6,10 @@
 #include <map>
 #include <string_view>
 
-/// What the stand-in remembers, shared by its units.
+/// The stand-in's state, shared by its units.
 namespace gl::detail {
 
-constexpr std::size_t stack_limit_model_view = 32; // the least that the standard grants
+constexpr std::size_t stack_limit_model_view = 32; // the least that the standard guarantees
 constexpr std::size_t stack_limit_projection = 2;
 
 constexpr std::uint64_t empty_sum = 14695981039346656037ULL; // the offset basis of FNV-1a
@@ -45,8 +45,8 @@ struct State {
 State& state();
 
 /// Logs one call, in the list under compilation if there is one.
-/// @param sum  for a call that names a list: what the list holds, which the checksum takes in the arguments' place
-/// @return true if it is to be executed now
+/// @param sum  for a call that names a list: the checksum of the list's content, used instead of the arguments
+/// @return whether to execute it now
 bool note(std::string_view name, std::initializer_list<double> numbers = {}, std::string_view words = {},
           std::uint64_t const* sum = nullptr);
 

@@ -1,5 +1,4 @@
-// In a build for coverage: what has been counted up to a broken assertion is written before the program aborts, so that
-// death tests count.
+// For coverage builds: writes the counts before a failed assertion aborts the program, so that death tests count.
 
 #include <csignal>
 
@@ -7,7 +6,7 @@ extern "C" void __gcov_dump(); // NOLINT(bugprone-reserved-identifier): libgcov'
 
 namespace {
 
-void keep_counts(int) { __gcov_dump(); } // abort goes on when this returns
+void keep_counts(int) { __gcov_dump(); } // abort continues when this returns
 
 [[maybe_unused]] auto const before = std::signal(SIGABRT, keep_counts);
 

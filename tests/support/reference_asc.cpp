@@ -88,7 +88,7 @@ private:
     Mesh mesh;
     int vertices = 0;
     int faces = 0;
-    std::array<float, 3> vertex{0, 0, 0}; // a line that does not parse repeats the values of the one before
+    std::array<float, 3> vertex{0, 0, 0}; // a line that does not parse repeats the values of the line before
     std::array<int, 3> face{0, 0, 0};
     std::array<int, 3> edge{0, 0, 0};
 };

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-/// A second reader of mesh files, as plain as can be: std::getline and sscanf, one line after the other. It is slow,
-/// and it holds no limits; the show's reader must give the same.
+/// A second reader of mesh files, as plain as possible: std::getline and sscanf, line by line. It is slow and has no
+/// limits; the show's reader must give the same results.
 namespace reference {
 
 struct Mesh {

@@ -15,7 +15,7 @@ inline std::string read_all(std::filesystem::path const& path) {
     return bytes.str();
 }
 
-/// A new empty folder that goes away with the object.
+/// A new empty folder, removed with the object.
 class TempFolder {
 public:
     TempFolder() {

@@ -4,7 +4,7 @@
 
 namespace support {
 
-/// A look of the effects that are made while it lives.
+/// Look settings for the effects made during its lifetime.
 class WithLook {
 public:
     explicit WithLook(effect::Look const& look) { effect::look = look; }

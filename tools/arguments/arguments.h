@@ -6,23 +6,23 @@
 #include <optional>
 #include <string>
 
-/// Gives a program what the tools have in common: --help and --version, and of an option given twice the later one
-/// holds. To be called before options are added.
+/// Sets up what the tools have in common: --help and --version; of an option given twice the later one counts. Call it
+/// before adding options.
 void set_up(CLI::App& app);
 
-/// Adds an option with a value, which is told to its reader as it is, even when it is "".
-/// @param type    stands for the value in the help text, for example "WxH"
-/// @param read    returns false where the value is not what it should be
-/// @param wanted  what it should be, for the line about one that is not: "--size: 'x' is not <wanted>"
+/// Adds an option with a value, which is passed to its reader unchanged, even if it is "".
+/// @param type    name of the value in the help text, for example "WxH"
+/// @param read    returns false if the value is not valid
+/// @param wanted  what a valid value is, for the error line: "--size: 'x' is not <wanted>"
 void add_value(CLI::App& app, std::string const& name, std::string const& type,
                std::function<bool(std::string const&)> read, std::string const& wanted, std::string const& help);
 
-/// Reads the command line. Help and version go to standard output, one line about a fault to standard error.
-/// @return the exit status, if the program ends here: 0 after help or version, 1 after a fault
+/// Reads the command line. Help and version go to standard output, one line about an error to standard error.
+/// @return the exit status, if the program ends here: 0 after help or version, 1 after an error
 std::optional<int> read_arguments(CLI::App& app, int argc, char const* const* argv);
 
 /// Reads a decimal number and nothing else, whatever the locale.
-/// @return false, with the number left as it was, for anything else and for what lies outside of least to most
+/// @return false, with the number unchanged, for anything else and for numbers outside least to most
 template<typename Number>
 bool read_number(std::string const& text, Number least, Number most, Number& number) {
     Number found{};

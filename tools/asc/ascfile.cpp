@@ -14,7 +14,7 @@ constexpr std::string_view name_start = "Named object: \"";
 constexpr std::array corner_names{"A:", "B:", "C:"};
 constexpr std::array edge_names{"AB:", "BC:", "CA:"};
 
-/// Cuts the text of one line into fixed words and numbers; any mismatch makes `ok` false for good.
+/// Splits the text of one line into fixed words and numbers; any mismatch makes `ok` false for good.
 class Scanner {
 public:
     explicit Scanner(std::string_view line) : rest(line) {}
@@ -24,7 +24,7 @@ public:
         if (ok) rest.remove_prefix(expected.size());
         return *this;
     }
-    /// One blank or more.
+    /// One space or more.
     Scanner& Blanks() {
         ok = ok && rest.starts_with(' ');
         while (rest.starts_with(' ')) rest.remove_prefix(1);
@@ -49,7 +49,7 @@ struct Line {
     std::string_view text; ///< without its line end
 };
 
-/// Hands out the lines of a text and notes wrong line ends.
+/// Returns the lines of a text one by one and records wrong line ends.
 class Lines {
 public:
     Lines(std::string_view whole, std::vector<Fault>& out) : text(whole), faults(out) {}
@@ -192,7 +192,7 @@ private:
         return true;
     }
 
-    /// Steps to the first line of the next object; after a fault that is the next line with a name.
+    /// Goes to the first line of the next object; after a fault that is the next line with a name.
     bool ToNextObject(bool good) {
         if (good) {
             if (!lines.Next(line)) return false;

@@ -10,32 +10,32 @@ namespace asc {
 
 /// Something wrong with a file, or with a mesh in it.
 struct Fault {
-    int line; ///< 1-based line of the file, 0 when the fault is the file's as a whole
+    int line; ///< 1-based line of the file, 0 for a fault of the whole file
     std::string text;
 };
 
-/// An object as read, with the lines that its parts stand on (1-based).
+/// An object as read, with the 1-based lines of its parts.
 struct ReadObject {
     Object object;
     int line = 0;
     std::vector<int> vertex_lines, face_lines;
 };
 
-/// A whole file as read. Objects without faults in their layout are complete and their indices lie in range.
+/// A whole file as read. Objects without layout faults are complete and their indices are in range.
 struct ReadFile {
     std::vector<ReadObject> objects;
     std::vector<Fault> faults;
 };
 
 /// Reads the text of a mesh file strictly: every departure from the layout that `write` produces is a fault.
-/// Reading goes on after a fault as far as it can; an object whose layout is at fault is left out of `objects`.
+/// Reading continues after a fault as far as possible; an object with a layout fault is left out of `objects`.
 ReadFile parse(std::string_view text);
 
 /// The objects as the text of a mesh file: CRLF line ends, one blank line between objects, none at the end.
 /// Numbers are fixed, six decimals at most, without trailing zeros, whatever the locale.
 std::string write(std::vector<Object> const& objects);
 
-/// The coordinate rounded to what `write` keeps of it.
+/// The coordinate, rounded as `write` rounds it.
 double rounded(double coordinate);
 
 /// Reads a whole file into `text`. Returns false when it cannot be read (a folder, missing, no permission).

@@ -44,7 +44,7 @@ int save_objects(std::vector<Object> const& objects, std::string const& out) {
 }
 
 /// Adds the objects of a mesh file.
-/// @return false after one line about what is wrong
+/// @return false after one error line
 bool load(Input const& input, std::vector<Object>& objects) {
     std::string text;
     if (!read_text(input.path, text)) {
@@ -76,7 +76,7 @@ int save_picture(std::optional<sf::Image> const& picture, std::string const& out
     return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
 }
 
-/// Makes an object as it was read one of the show's.
+/// Turns an object as read into one for the show.
 /// @return "", or what is wrong
 std::string make_ready(Object& object, ConvertOptions const& options) {
     if (options.flat) keep_lowest_plane(object);
@@ -85,7 +85,7 @@ std::string make_ready(Object& object, ConvertOptions const& options) {
     wind(object);
     if (object.faces.empty()) return "nothing is left of object '" + object.name + "'";
     if (options.size && !refine(object, *options.size, options.min_angle)) {
-        return "the facets of object '" + object.name + "' do not come to fit each other";
+        return "the facets of object '" + object.name + "' cannot be made to fit each other";
     }
     flag_creases(object);
     return "";

@@ -9,7 +9,7 @@
 
 namespace asc {
 
-// What the commands are asked to do; see the help text in main.cpp. A path of input may stand behind a name: NAME=PATH.
+// Options of the commands; see the help text in main.cpp. An input path may follow a name: NAME=PATH.
 
 struct ConvertOptions {
     std::vector<std::string> inputs;
@@ -36,7 +36,7 @@ struct PreviewOptions {
     std::string out;    ///< "" for the file's name with .png
     std::string object; ///< "" for all
     std::optional<Vec3> camera;
-    View view; ///< what it says of the camera does not count
+    View view; ///< its camera is not used
 };
 
 struct SheetOptions {
@@ -46,7 +46,7 @@ struct SheetOptions {
     unsigned int panel = 150; ///< pixels
 };
 
-/// Each prints one line on standard error about what it cannot do.
+/// Each prints one line on standard error if it fails.
 /// @return the exit status: 0, or 1 after a fault
 int convert(ConvertOptions const& options);
 int join(JoinOptions const& options);

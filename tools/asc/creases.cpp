@@ -14,7 +14,7 @@ bool coplanar(Object const& object, Side const& a, Side const& b) {
     static double const least = std::cos(crease_angle * std::numbers::pi / 180.0);
     Vec3 const n = normalised(face_normal(object, object.faces[a.face]));
     Vec3 m = normalised(face_normal(object, object.faces[b.face]));
-    // Two faces that run along the edge the same way are wound against each other.
+    // Two faces that run along the edge in the same direction have opposite winding.
     if (a.forward == b.forward) m = m * -1.0;
     return dot(n, m) >= least;
 }
@@ -28,7 +28,7 @@ Edge side_edge(Face const& face, std::size_t slot) { return std::minmax(face.v[s
 void turn_for_drawing(Face& face) {
     int const shown = face.edge[0] + face.edge[1] + face.edge[2];
     if (shown == 0 || shown == 3) return;
-    // The edge that stands alone, the only visible or the only hidden one, becomes AB.
+    // The odd edge, the only visible or the only hidden one, becomes AB.
     int const alone = shown == 1 ? 1 : 0;
     auto const slot = std::find(face.edge.begin(), face.edge.end(), alone) - face.edge.begin();
     std::rotate(face.v.begin(), face.v.begin() + slot, face.v.end());

@@ -46,7 +46,7 @@ void add_vector(CLI::App& command, std::string const& name, std::optional<asc::V
 }
 
 void add_convert(CLI::App& app, Tool& tool) {
-    CLI::App& command = *app.add_subcommand("convert", "Make a mesh file of model files (OFF, OBJ, STL, glTF ...)");
+    CLI::App& command = *app.add_subcommand("convert", "Make a mesh file from model files (OFF, OBJ, STL, glTF ...)");
     asc::ConvertOptions& options = tool.convert;
     command.add_option("INPUT", options.inputs, "Model files, one object from each; NAME=FILE names it")
         ->type_name("")
@@ -55,8 +55,8 @@ void add_convert(CLI::App& app, Tool& tool) {
     command.add_flag("--flat", options.flat, "Keep only the lowest plane of a thin extrusion");
     auto const weld = [&](std::string const& v) { return read_number(v, 1e-6, 1e3, options.weld); };
     add_value(command, "--weld", "DISTANCE", weld, "a number from 0.000001 to 1000",
-              "Join points nearer than this (0.00001)");
-    add_vector(command, "--centre", options.centre, "Move the middle of the box there");
+              "Join points closer than this (0.00001)");
+    add_vector(command, "--centre", options.centre, "Move the middle of the box to this point");
     auto const size = [&](std::string const& v) { return read_number(v, 1e-4, 1e6, options.size.emplace()); };
     add_value(command, "--refine", "SIZE", size, "a number from 0.0001 to 1000000",
               "Cut the facets into even triangles with no side longer than this");
@@ -78,7 +78,7 @@ void add_check(CLI::App& app, Tool& tool) {
     CLI::App& command =
         *app.add_subcommand("check", "Print every object and every fault; status 1 if there is a fault");
     command.add_option("FILE", tool.check.files, "Mesh files")->type_name("")->required();
-    command.add_flag("--shatter", tool.check.shatter, "The objects are to be taken apart: not too many faces for that");
+    command.add_flag("--shatter", tool.check.shatter, "Also check that there are not too many faces to shatter");
     command.callback([&] { tool.status = asc::check(tool.check); });
 }
 
@@ -98,8 +98,8 @@ void add_preview(CLI::App& app, Tool& tool) {
     add_vector(command, "--at", view.at, "Where it is (0,0,0)");
     command.add_flag("--white", view.white, "White faces with black lines on black");
     command.add_flag_callback(
-        "--no-lines", [&] { view.lines = false; }, "Faces alone");
-    command.add_flag("--all-lines", view.all_lines, "Every side of every face, as of a model that is taken apart");
+        "--no-lines", [&] { view.lines = false; }, "Faces only");
+    command.add_flag("--all-lines", view.all_lines, "Every side of every face, as in a shattered model");
     command.callback([&] { tool.status = asc::preview(options); });
 }
 
@@ -109,7 +109,7 @@ void add_sheet(CLI::App& app, Tool& tool) {
     command.add_option("FILE", options.files, "Mesh files")->type_name("")->required();
     command.add_option("-o", options.out, "The picture")->type_name("OUT.png")->required();
     auto const columns = [&](std::string const& v) { return read_number(v, 1u, 100u, options.columns); };
-    add_value(command, "--columns", "N", columns, "a number from 1 to 100", "Objects in a row (5)");
+    add_value(command, "--columns", "N", columns, "a number from 1 to 100", "Objects per row (5)");
     auto const panel = [&](std::string const& v) { return read_number(v, 20u, 2000u, options.panel); };
     add_value(command, "--panel", "PIXELS", panel, "a number from 20 to 2000", "Width of a picture (150)");
     command.callback([&] { tool.status = asc::sheet(options); });
@@ -118,8 +118,8 @@ void add_sheet(CLI::App& app, Tool& tool) {
 } // namespace
 
 int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
-    sf::err().rdbuf(nullptr);     // its complaints about files would double ours
-    CLI::App app("Makes the show's meshes of model files, checks them and draws them.", "asc");
+    sf::err().rdbuf(nullptr);     // its messages about files would repeat ours
+    CLI::App app("Makes the show's meshes from model files, checks them and draws them.", "asc");
     set_up(app);
     app.require_subcommand(0, 1);
     Tool tool;

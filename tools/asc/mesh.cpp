@@ -84,7 +84,7 @@ std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const
         for (Side const& side : edge.second) sets.union_set(edge.second.front().face, side.face);
     }
     std::vector<std::vector<std::size_t>> parts;
-    std::map<std::size_t, std::size_t> index; // by the face that stands for the part
+    std::map<std::size_t, std::size_t> index; // by the face that represents the part
     for (std::size_t f = 0; f < object.faces.size(); ++f) {
         auto const [at, fresh] = index.emplace(sets.find_set(f), parts.size());
         if (fresh) parts.emplace_back();

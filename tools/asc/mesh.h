@@ -24,7 +24,7 @@ struct Vec3 {
 double dot(Vec3 a, Vec3 b);
 Vec3 cross(Vec3 a, Vec3 b);
 double length(Vec3 a);
-/// The direction of a, length 1; (0, 0, 0) for a vector shorter than 1e-300.
+/// The unit vector along a; (0, 0, 0) for a vector shorter than 1e-300.
 Vec3 normalised(Vec3 a);
 
 /// One triangle: 0-based vertex indices A, B, C and the edge flags AB, BC, CA (1 visible, 0 hidden).
@@ -40,7 +40,7 @@ struct Object {
     std::vector<Face> faces;
 };
 
-/// The smallest box around all vertices; both corners (0, 0, 0) when there are none.
+/// The smallest box around all vertices; both corners (0, 0, 0) if there are none.
 struct Box {
     Vec3 low, high;
     /// True when the box has no extent along z (within 1e-9): the object is a flat shape across the view.
@@ -73,14 +73,14 @@ struct Side {
 using Edges = std::map<std::pair<int, int>, std::vector<Side>>;
 Edges edges_of(Object const& object);
 
-/// The faces in parts that hang together over the edges that `joins` accepts: their indices, each part in rising order,
-/// parts by their first face.
+/// The parts of the mesh that are connected by edges that `joins` accepts, as face indices: ascending within a part,
+/// parts in the order of their first face.
 std::vector<std::vector<std::size_t>> parts_of(Object const& object, Edges const& edges,
                                                std::function<bool(Edges::value_type const&)> const& joins);
 
 /// True when every edge belongs to exactly two faces.
 bool closed(Edges const& edges);
-/// Sum of signed tetrahedra from the origin, cubic units; above 0 when a closed mesh's faces look outward.
+/// Sum of signed tetrahedra from the origin, cubic units; above 0 if a closed mesh's faces look outward.
 double volume(Object const& object);
 
 } // namespace asc

@@ -73,7 +73,7 @@ Vec3 turned(Vec3 p, Vec3 degrees) {
 }
 
 /// How to turn a mesh for its panel: flat ones not at all, others to the side that shows most of them. The first
-/// side, upper right, is kept unless another shows a tenth more.
+/// side, upper right, is used unless another shows a tenth more.
 Vec3 best_turn(Object const& object, bool flat) {
     if (flat) return {};
     Vec3 best;
@@ -132,7 +132,7 @@ void draw_panel(Object const& object, kore::AscModel_ptr const& models, bool sol
     model.Draw();
 }
 
-/// The mean of pictures drawn at all shifts by thirds of a pixel, as some drivers smooth faces but not lines.
+/// The mean of pictures shifted by thirds of a pixel, because some drivers smooth faces but not lines.
 template<typename Draw>
 sf::Image smoothed(Target const& target, unsigned int size, Draw draw) {
     std::vector<unsigned int> sum(std::size_t{4} * size * size);

@@ -18,22 +18,22 @@ struct View {
     Vec3 at{0, 0, 0};
     bool white = false;     ///< white faces and black lines on black, instead of black faces and white lines on white
     bool lines = true;      ///< draw the edges that the flags show
-    bool all_lines = false; ///< draw every side of every face instead, as of a mesh that is taken apart
+    bool all_lines = false; ///< draw every side of every face instead, as in a shattered mesh
 };
 
 /// Draws the objects one over the other, off-screen, as a scene of the show does.
 /// @param width, height  pixels, above 0
-/// @return nothing where OpenGL cannot draw such a picture
+/// @return nothing if OpenGL cannot draw such a picture
 std::optional<sf::Image> draw_view(std::vector<Object> const& objects, View const& view, unsigned int width,
                                    unsigned int height);
 
 /// A sheet of panels, two for each object: solid, and its lines (those shown black, the others grey), with name and
 /// face count below. Flat objects are seen from the front, others from the upper right or from where more of them
-/// shows; all are stretched to 4/3 of their width, like the show's picture. Lines lie clear above the faces.
+/// shows; all are stretched to 4/3 of their width, like the show's picture. Lines are drawn clear of the faces.
 /// @param objects  at least one
 /// @param columns  objects in a row, above 0
 /// @param panel    width and height of a panel, pixels, above 0
-/// @return nothing where OpenGL cannot draw such panels
+/// @return nothing if OpenGL cannot draw such panels
 std::optional<sf::Image> draw_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel);
 
 } // namespace asc

@@ -62,7 +62,7 @@ public:
         }
     }
 
-    /// Triangulates the facet with its outline cut at `cuts`; cuts that the refinement had to add go there too.
+    /// Triangulates the facet with its outline cut at `cuts`; adds the cuts that the refinement needs.
     void Mesh(Cuts& cuts, double size, double min_angle) {
         Build(cuts);
         Mesher mesher(triangulation);
@@ -74,7 +74,7 @@ public:
         built_with = CutsOnOutline(cuts);
     }
 
-    /// True when the outline has other cuts by now than the triangles were made with.
+    /// True if the outline's cuts have changed since the triangles were made.
     bool IsStale(Cuts const& cuts) const { return built_with != CutsOnOutline(cuts); }
 
     /// Appends the triangles to `out`; vertices are joined later.
@@ -185,7 +185,7 @@ bool refine(Object& object, double size, double min_angle) {
     for (auto const& faces : parts_of(object, edges, within_a_facet)) facets.emplace_back(object, faces, shown);
 
     Cuts cuts = even_cuts(object, shown, size);
-    // A facet may cut an edge that it shares; then its neighbour is made again with that cut.
+    // A facet may cut an edge that it shares; then its neighbour is meshed again with that cut.
     constexpr int most_rounds = 30;
     for (int round = 0; round < most_rounds; ++round) {
         bool changed = false;

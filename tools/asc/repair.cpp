@@ -12,7 +12,7 @@ namespace asc {
 
 namespace {
 
-/// Not CGAL's: its merging of points takes equal ones only.
+/// Not CGAL's: it merges equal points only.
 void weld(Object& object, double distance) {
     std::vector<Vec3> kept;
     std::map<Vec3, int> index; // of the kept ones, ordered by x
@@ -63,7 +63,7 @@ std::size_t longest_side(Object const& object, Face const& face) {
     return best;
 }
 
-/// Takes out the face `thin`, whose corners lie on one line, and splits the face across its longest side.
+/// Removes the face `thin`, whose corners lie on one line, and splits the face across its longest side.
 void dissolve(Object& object, std::size_t thin) {
     Face const face = object.faces[thin];
     std::size_t const slot = longest_side(object, face);
@@ -82,9 +82,9 @@ void dissolve(Object& object, std::size_t thin) {
     object.faces.erase(object.faces.begin() + static_cast<std::ptrdiff_t>(thin));
 }
 
-/// Not CGAL's: it takes faces away only where they have no area at all.
+/// Not CGAL's: it removes faces only if they have no area at all.
 void dissolve_thin_faces(Object& object) {
-    // Each step takes out one thin face or moves it to the neighbour; the bound ends what would go in circles.
+    // Each step removes one thin face or moves it to the neighbour; the bound ends what would go in circles.
     for (std::size_t steps = 4 * object.faces.size() + 16; steps > 0; --steps) {
         std::erase_if(object.faces, repeats_corner);
         auto const thin = std::find_if(object.faces.begin(), object.faces.end(),
@@ -113,7 +113,7 @@ void drop_loose(Object& object) {
 
 void turn_over(Face& face) { std::swap(face.v[1], face.v[2]); }
 
-/// Turns faces so that neighbours agree.
+/// Flips faces so that neighbours agree.
 void orient(Object& object) {
     struct Visitor : CGAL::Polygon_mesh_processing::Default_orientation_visitor {
         explicit Visitor(std::vector<Face>& all) : faces(all) {}
@@ -127,7 +127,7 @@ void orient(Object& object) {
     CGAL::Polygon_mesh_processing::orient_polygon_soup(points, polygons, CGAL::parameters::visitor(visitor));
 }
 
-/// True when the part should look the other way.
+/// True if the part should look the other way.
 bool inside_out(Object const& object, Edges const& edges, std::vector<std::size_t> const& part) {
     Vec3 sum;
     double spread = 0.0, six_volumes = 0.0;

@@ -4,16 +4,16 @@
 
 namespace asc {
 
-/// Points nearer to each other than this become one vertex, units, unless a caller asks for more.
+/// Points closer than this become one vertex, units, by default.
 inline constexpr double weld_distance = 1e-5;
 
-/// Rounds coordinates to what a file keeps, joins vertices less than `distance` apart, drops faces without area, faces
-/// that stand twice and vertices that no face uses. A face whose corners lie on one line is not simply dropped: the
-/// neighbour across its longest side is split in two, so that no gap opens.
+/// Rounds coordinates to the precision of files, joins vertices less than `distance` apart, drops faces without area,
+/// duplicate faces and unused vertices. A face whose corners lie on one line is not simply dropped: the neighbour
+/// across its longest side is split in two, so that no gap opens.
 void clean(Object& object, double distance = weld_distance);
 
-/// Turns the faces so that neighbours agree; then a closed part looks outward, a flat part of normal along z looks
-/// to +z, and any other open part keeps the side that its first face looked to.
+/// Flips faces so that neighbours agree; then a closed part looks outward, a flat part with its normal along z looks
+/// to +z, and any other open part keeps the side of its first face.
 void wind(Object& object);
 
 /// Keeps only the faces that lie wholly in the mesh's lowest plane z = const: the shape of a thin extrusion.

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A rectangle of a letter as the font writes it: its corners clockwise from the upper left one, dots.
+/// A rectangle of a letter as the font draws it: its corners clockwise from the upper left one, dots.
 struct Quad {
     struct {
         float x, y, z;
@@ -14,7 +14,7 @@ struct Quad {
     } corners[4];
 };
 
-/// The font knows no other characters, and looks for them outside of its table.
+/// The font has no other characters, and would read them outside its table.
 std::string printable(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }, ' ');

@@ -1,4 +1,4 @@
-#define GL_GLEXT_PROTOTYPES // framebuffers are younger than gl.h
+#define GL_GLEXT_PROTOTYPES // gl.h predates framebuffers
 #include "tools/offscreen/framebuffer.h"
 
 #include <GL/gl.h>

@@ -13,8 +13,8 @@ public:
 
     /// Makes the picture; from then on all drawing goes there, over its whole area.
     /// @param wide, high  pixels, above 0
-    /// @param per_pixel   samples; 0 or 1 for none beside the pixel's own
-    /// @return false where the driver cannot serve the size or so many samples, see LargestSide and MostSamples
+    /// @param per_pixel   samples per pixel; 0 or 1 for a single one
+    /// @return false if the driver does not support the size or the samples, see LargestSide and MostSamples
     bool Create(unsigned int wide, unsigned int high, unsigned int per_pixel);
 
     /// What the current context's driver allows.

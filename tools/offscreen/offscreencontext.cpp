@@ -19,7 +19,7 @@ bool client_has(std::string_view extension) {
     return all && std::string_view(all).find(extension) != std::string_view::npos;
 }
 
-// All displays that do without a window system, best first, and the default one.
+// All displays that need no window system, best first, and the default one.
 std::vector<EGLDisplay> candidates() {
     std::vector<EGLDisplay> displays;
     auto const get_display = entry_point<PFNEGLGETPLATFORMDISPLAYEXTPROC>("eglGetPlatformDisplayEXT");
@@ -40,7 +40,7 @@ std::vector<EGLDisplay> candidates() {
     return displays;
 }
 
-// Every driver serves pbuffers, though not every configuration; the second choice asks for nothing.
+// Every driver supports pbuffers, though not in every configuration; the second choice asks for nothing.
 bool choose_config(EGLDisplay display, EGLConfig& config) {
     constexpr EGLint with_pbuffer[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT,
                                        EGL_NONE};
@@ -66,7 +66,7 @@ bool OffscreenContext::OpenOn(EGLDisplay candidate) {
     display = candidate;
     EGLConfig config = nullptr;
     if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {
-        // Without a version or a profile asked for, a driver gives the newest one that keeps the fixed functions.
+        // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
         context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
         if (context != EGL_NO_CONTEXT && MakeCurrent(config)) return true;
     }

@@ -4,7 +4,7 @@
 #include <string>
 
 /// An OpenGL context without a window or an X server, through EGL: compatibility profile, current on the thread that
-/// opened it. It has no picture of its own to draw into; bring a Framebuffer.
+/// opened it. It has no picture to draw into; use a Framebuffer.
 ///
 /// Tried in this order: Mesa's surfaceless platform, then every device that EGL lists, then the default display; on
 /// each with no surface at all, then with a small pbuffer. On a machine with several drivers the variable
@@ -17,10 +17,10 @@ public:
     ~OffscreenContext();
 
     /// Makes the context and makes it current.
-    /// @return false where no driver offers one
+    /// @return false if no driver offers one
     bool Open();
 
-    /// The driver's name for what draws, for example "llvmpipe (LLVM 15.0.6, 256 bits)"; "" before Open.
+    /// The driver's name of the renderer, for example "llvmpipe (LLVM 15.0.6, 256 bits)"; "" before Open.
     static std::string Renderer();
 
 private:

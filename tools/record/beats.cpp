@@ -28,7 +28,7 @@ std::optional<Millibeats> parse_beat(std::string const& text) {
     double beats = 0;
     auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
     if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
-    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is a hair below 3001
+    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is slightly below 3001
 }
 
 /// @return false if there are too many already

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// A moment of the show or of a scene in thousandths of a beat: whole numbers, so that nothing is lost in counting.
+/// A moment of the show or of a scene in thousandths of a beat: integers, so that sums are exact.
 using Millibeats = int;
 
 constexpr Millibeats one_beat = 1000;
@@ -12,7 +12,7 @@ constexpr Millibeats one_beat = 1000;
 /// The recorder's frames per second.
 constexpr int recorded_rate = 60;
 
-/// No show of the recorder's is longer.
+/// The longest show that the recorder can step, beats.
 constexpr int most_beats = 999;
 
 /// The first frame at or after a moment on which the show's clock has counted the moment's beat. At 132 beats a minute
@@ -26,13 +26,12 @@ inline bool frame_is_before(int frame, Millibeats moment) { return frame < frame
 
 /// Reads "0.5,3.25" or "0:16:0.5" (from, to, step; the end is left out), or a list of both.
 /// @param text  decimal numbers from 0 to most_beats, cut to three places
-/// @return the moments in their order, every one once; nothing if the text is anything else, a range is empty or more
-/// than
-///         10000 moments are asked for
+/// @return the moments in order, without repetitions; nothing if the text is anything else, a range is empty or there
+///         are more than 10000 moments
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text);
 
-/// A moment as it stands in file names, "012.400".
+/// A moment as in file names, "012.400".
 std::string padded_beat(Millibeats at);
 
-/// A moment as it stands in labels and messages, "12.4".
+/// A moment as in labels and messages, "12.4".
 std::string short_beat(Millibeats at);

@@ -41,8 +41,8 @@ Shot make_shot(Timetable const& timetable, RecordOptions const& options, Millibe
     return {frame_at(at), prefix + "_" + padded_beat(asked), place.title + " " + short_beat(at - place.Begin())};
 }
 
-/// Turns the beats asked for into frames, in their order.
-/// @return false, after a line, if one lies outside of the scene or the show
+/// Turns the requested beats into frames, in order.
+/// @return false, after an error line, if one lies outside the scene or the show
 bool plan_shots(Timetable const& timetable, RecordOptions const& options, std::vector<Shot>& shots) {
     ScenePlace const show{"", "the show", 0, timetable.back().first + timetable.back().length, {}};
     ScenePlace const* const scene = options.scene.empty() ? &show : find_scene(timetable, options.scene);
@@ -82,7 +82,7 @@ bool save(sf::Image const& image, fs::path const& path) {
     return true;
 }
 
-/// Plays the show up to the last shot; writes pictures as they come and the sheet at the end.
+/// Plays the show up to the last shot; writes pictures on the way and the sheet at the end.
 bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback,
           Framebuffer const& framebuffer) {
     std::vector<std::size_t> in_time(shots.size());
@@ -145,9 +145,9 @@ int record(RecordOptions options) {
 int main(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
-    sf::err().rdbuf(nullptr); // its complaints about files would double ours
+    sf::err().rdbuf(nullptr); // its messages about files would repeat ours
     effect::look.standard_wire = options.wire;
-    // The caller's paths are meant from where they stand, not from where the data lies.
+    // The caller's paths are relative to the caller's folder, not to that of the data.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);

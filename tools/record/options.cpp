@@ -36,24 +36,24 @@ void add_options(CLI::App& app, RecordOptions& options) {
     add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
               "a list of beats such as 0.5,3.25 or 0:16:0.5",
               "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
-    app.add_flag("--overview", options.overview, "Five moments of every scene, in the place of --beats");
+    app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
     add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
-              "Write each picture to DIR/beat_012.400.png (a folder that is not there is made)");
+              "Write each picture to DIR/beat_012.400.png; DIR is created if necessary");
     add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet); }, "a path",
               "Write a contact sheet of the pictures");
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
               "a scene's name; --list shows them",
-              "Count the beats from this scene's first one; the files are called NAME_012.400.png");
+              "Count the beats from the start of this scene; the files are called NAME_012.400.png");
     app.add_flag("--frames", options.frame_after,
                  "Also take the frame after each, ending in \"b\": strobes last one frame");
     add_value(app, "--size", "WxH", [&](Value v) { return read_size(v, options); },
               "a size such as 1024x768, up to 8192x8192", "Size of a picture in pixels (1024x768)");
     add_value(app, "--samples", "N", [&](Value v) { return read_number(v, 0u, most_samples, options.samples); },
-              "a number from 0 to 64", "Samples a pixel (4)");
+              "a number from 0 to 64", "Samples per pixel (4)");
     add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
-              "a number from 1 to 100", "Pictures in a row of the sheet (5)");
+              "a number from 1 to 100", "Pictures per row of the sheet (5)");
     app.add_flag_callback("--wire", [&] { options.wire = true; },
-                          "Draw the pulse wire as the OpenGL standard has it, on every driver (default)")
+                          "Draw the pulse wire by the OpenGL standard, on every driver (default)")
         ->trigger_on_parse();
     app.add_flag_callback("--no-wire", [&] { options.wire = false; }, "Leave it to the driver, as the program does")
         ->trigger_on_parse();

@@ -23,7 +23,7 @@ sf::Color average(sf::Image const& picture, unsigned int left, unsigned int top,
     return {mean(sum[0]), mean(sum[1]), mean(sum[2])};
 }
 
-// The largest lettering with which the label fits under its picture.
+// The largest lettering that fits the label under its picture.
 unsigned int dot_for(std::string const& label, unsigned int width) {
     return std::clamp(width / std::max(text_width(label), 1u), 1u, most_dot);
 }

@@ -10,14 +10,14 @@ struct SheetCell {
     std::string label;
 };
 
-/// The widest picture that goes onto a sheet as it is, pixels.
+/// The widest picture that goes onto a sheet unscaled, pixels.
 constexpr unsigned int widest_cell = 320;
 
-/// Makes a picture fit for a sheet: the average of blocks of n x n pixels, with the smallest n that brings it down to
-/// the widest cell. What is left over at the right and lower edge is dropped.
+/// Shrinks a picture for a sheet: averages blocks of n x n pixels, with the smallest n that makes it no wider than the
+/// widest cell. Incomplete blocks at the right and lower edge are dropped.
 sf::Image shrink_for_sheet(sf::Image const& picture);
 
-/// Lays pictures out in rows on grey, each with its label below, in their order.
+/// Lays pictures out in rows on grey, in order, each with its label below.
 /// @param cells    at least one, all of one size
-/// @param columns  pictures in a row, above 0; fewer pictures make a narrower sheet
+/// @param columns  pictures per row, above 0; fewer pictures make a narrower sheet
 sf::Image make_sheet(std::span<SheetCell const> cells, unsigned int columns);

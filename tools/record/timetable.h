@@ -27,11 +27,11 @@ using Timetable = std::vector<ScenePlace>;
 Timetable make_timetable(kore::Demo& demo, std::span<SceneEntry const> scenes = running_order());
 
 /// @param name  a name or a title, in any case
-/// @return null where no scene is called so
+/// @return null if there is no such scene
 ScenePlace const* find_scene(Timetable const& timetable, std::string const& name);
 
 /// @return the scene that plays at a moment of the show; null past the end
 ScenePlace const* scene_at(Timetable const& timetable, Millibeats at);
 
-/// The names, separated by commas and blanks.
+/// The names, separated by commas and spaces.
 std::string scene_list(Timetable const& timetable);

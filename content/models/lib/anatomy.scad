@@ -1,6 +1,6 @@
 // Parts of a woman's body, in heads: one unit is the height of the head, the figure eight of them.
 // Limb profiles are [t, left, right] tables for limb() of figure.scad, looking down a limb from its
-// root; the other parts are drawn in a frame of their own, whose origin and x axis are told with them.
+// root; the other parts are drawn in a frame of their own; their comments give its origin and x axis.
 
 // ---- legs ------------------------------------------------------------------------------------------
 

@@ -2,8 +2,8 @@
 // limbs that hang between two joints. Everything is flat, y up, in the units of the model that uses it.
 //
 // Curves are centripetal Catmull-Rom splines through the points given. A point written twice in a row
-// is a corner: the curve ends there and starts anew. Sampling follows the shape: a span gets as many
-// steps as keep the chord within tolerance() of the curve, so long calm lines cost few vertices. A model sets
+// is a corner: the curve ends there and starts again. Sampling follows the shape: a span gets as many
+// steps as keep the chord within tolerance() of the curve, so long smooth lines need few vertices. A model sets
 // $tol for a coarser or finer outline than usual.
 
 function tolerance() = is_undef($tol) ? 0.001 : $tol; // in the model's units
@@ -130,13 +130,13 @@ module lock(points) {
 
 // ---- finish ----------------------------------------------------------------------------------------
 
-// Fills creases with a fillet of radius r. The filled copy lies a hair inside the shape, so that the shape's
+// Fills creases with a fillet of radius r. The filled copy lies slightly inside the shape, so that the shape's
 // own outline stays as it is, point by point, wherever there is no crease.
 module fillet(r) {
     children();
     offset(delta = -2 * tolerance()) offset(r = -r, $fs = 0.03, $fa = 20) offset(delta = r) children();
 }
-// Takes the edge off whatever sticks out.
+// Rounds whatever sticks out.
 module rounded(r) { offset(r = r, $fs = 0.02, $fa = 12) offset(r = -r, $fs = 0.02, $fa = 12) children(); }
 
 // The screen shows everything 4/3 as wide as it is: draw in natural proportions, flatten last. The

@@ -1,7 +1,7 @@
 // Convex solids by their exact coordinates, and frames made of their edges.
 //
 // A solid is [points, faces]: points around the origin, each face a loop of point numbers, counter-clockwise seen
-// from outside. `frame` turns the faces over at the end, because OpenSCAD wants them clockwise.
+// from outside. `frame` turns the faces over at the end, because OpenSCAD requires clockwise order.
 
 golden = (1 + sqrt(5)) / 2;
 

@@ -1,130 +1,76 @@
-; Hits that the picture makes, and what leads up to them.
+; Hits that the picture makes, in three sizes: Slam for a new scene, Impact for a flash, Knock for a small turn.
+; A harder one is brighter and falls from higher.
 
-; Impact: a boom that falls to the root p5 (0: g1), a wall of noise, a big room. tone: how bright the wall is.
-instr Impact
-  p3 = max(p3, 1.6)
+; Slam: a boom from a sixth of a second away, a wall of noise, a crack, and a low chord of iron. p5: its root (0: g1).
+; tone: how bright the wall is.
+instr Slam
+  p3 = max(p3, 2.2)
+  schedule "Duck", 0, 0.34, 1
   iroot = cpsmidinn(p5 == 0 ? 31 : p5)
-  afall expseg 150, 0.09, iroot * 1.25, 0.35, iroot, 10, iroot
-  aboom oscili 1, afall, -1, 0.05
-  aboomenv expseg 1, 0.25, 0.7, p3 - 0.27, 0.004, 0.02, 0.0005
-  aboom = tanh(aboom * aboomenv * 2.2) * 0.62
+  ; Boom and its first two harmonics, pressed
+  afall expseg 190, 0.07, iroot * 1.3, 0.3, iroot, 10, iroot
+  a1 oscili 1, afall, -1, 0.05
+  a2 oscili 0.5, afall * 2, -1, 0.1
+  aboomenv expseg 1, 0.3, 0.75, p3 - 0.32, 0.004, 0.02, 0.0005
+  gaBoom = gaBoom + tanh((a1 + a2) * aboomenv * 2.6) * 0.66 * p4
+  ; Iron: a fifth and its octave, broken
+  a3 vco2 0.5, iroot * 2
+  a4 vco2 0.5, iroot * 3.01, 0, 0.5, 0.3
+  a5 vco2 0.5, iroot * 4.02, 0, 0.5, 0.6
+  kiron expseg 1200 + (1300 + 5500 * p6) * p4, 0.4, 700, p3, 160
+  airon butterlp tanh((a3 + a4 + a5) * 2.5), kiron
+  aironenv expseg 1, 0.3, 0.6, p3 - 0.32, 0.01, 0.02, 0.002
+  ; Wall and crack
   aleft hiss
   aright hiss
-  kcut expseg 3000 + 11000 * p6, 0.5, 900, 2, 260, 10, 200
-  aleft butterlp aleft, kcut
-  aright butterlp aright, kcut
-  awall expseg 1, 0.05, 0.5, 0.5, 0.09, p3 - 0.55, 0.001
+  acentre hiss
+  kcut expseg 1500 + (2000 + 8500 * p6) * p4, 0.5, 500 + 600 * p4, 2, 300, 10, 200
+  aleft butterlp aleft * 0.5 + acentre * 0.9, kcut
+  aright butterlp aright * 0.5 + acentre * 0.9, kcut
+  awall expseg 1, 0.05, 0.6, 0.36, 0.1, p3 - 0.41, 0.001
+  acrack expseg 1, 0.02, 0.02, 1, 0.01
+  acrack butterbp acentre * acrack, 2600, 2600
   afade linseg 1, p3 - 0.02, 1, 0.02, 0
-  aleft = aleft * awall * 0.5 * p4 * afade
-  aright = aright * awall * 0.5 * p4 * afade
-  plain aleft, aright, 0.3, 0
-  gaKick = gaKick + aboom * p4 * 0.8
+  amid = (airon * aironenv * 0.42 + acrack * (0.2 + p4)) * p4 * afade
+  plain aleft * awall * 0.62 * p4 * afade + amid, aright * awall * 0.62 * p4 * afade + amid, 0.35, 0
 endin
 
-; One shard of glass: a few partials of a struck pane. p5 note, tone: place.
-instr Shard
-  icps = cpsmidinn(p5)
-  a1 oscili 1, icps, -1, 0.25
-  a2 oscili 0.6, icps * 2.32, -1, 0.25
-  a3 oscili 0.35, icps * 4.25
-  aenv expseg 1, p3, 0.001
-  aleft, aright place (a1 + a2 + a3) * aenv * 0.12 * p4, p6 * 2 - 1
-  plain aleft, aright, 0.35, 0.12
-endin
-
-; Glass: the pane bursts on the first sample, its shards ring and rain down for a second.
-instr Glass
-  icount = 0
-  while icount < 46 do
-    ispread random 0, 1
-    ipitch random 86, 118
-    iring random 0.06, 0.7
-    iplace random 0, 1
-    ilevel random 0.3, 1
-    iwhen = (icount < 14) ? 0 : 0.9 * ispread * ispread
-    schedule "Shard", iwhen, iring, ilevel * p4 * (icount < 14 ? 1 : 0.75 - 0.5 * ispread), ipitch - 8 * ispread, iplace
-    icount += 1
-  od
-  p3 = 0.5
+; Impact: the same from further away: a boom and a shorter wall. p5: root (0: g1). tone: how bright the wall is.
+instr Impact
+  p3 = max(p3, 1.4)
+  iroot = cpsmidinn(p5 == 0 ? 31 : p5)
+  afall expseg 130 + 40 * p4, 0.08, iroot * 1.25, 0.3, iroot, 10, iroot
+  aboom oscili 1, afall, -1, 0.05
+  aboomenv expseg 1, 0.22, 0.6, p3 - 0.24, 0.004, 0.02, 0.0005
+  gaBoom = gaBoom + tanh(aboom * aboomenv * (1.4 + p4)) * 0.3 * p4
   aleft hiss
   aright hiss
-  aleft butterhp aleft, 3000
-  aright butterhp aright, 3000
-  aenv expseg 1, 0.02, 0.4, 0.3, 0.01, 1, 0.004
-  plain aleft * aenv * 0.55 * p4, aright * aenv * 0.55 * p4, 0.3, 0
+  acentre hiss
+  kcut expseg 1200 + (1300 + 6500 * p6) * p4, 0.4, 300 + 500 * p4, 2, 260, 10, 200
+  aleft butterlp aleft * 0.5 + acentre * 0.8, kcut
+  aright butterlp aright * 0.5 + acentre * 0.8, kcut
+  awall expseg 1, 0.05, 0.45, 0.4, 0.07, p3 - 0.45, 0.001
+  acrack expseg 1, 0.012, 0.02, 1, 0.01
+  acrack butterbp acentre * acrack, 3200, 3000
+  afade linseg 1, p3 - 0.02, 1, 0.02, 0
+  amid = acrack * (0.1 + 0.5 * p4) * p4 * afade
+  plain aleft * awall * 0.36 * p4 * afade + amid, aright * awall * 0.36 * p4 * afade + amid, 0.3, 0
 endin
 
-; Zap: the strobe after each word, torn metal at p5. tone: how long.
-instr Zap
-  p3 = 0.1 + 0.3 * p6
-  icps = cpsmidinn(p5)
-  aindex expseg 9, p3 * 0.7, 0.6, 10, 0.5
-  amodl oscili icps * 1.414 * aindex, icps * 1.414
-  amodr oscili icps * 1.427 * aindex, icps * 1.427
-  aleft oscili 1, icps + amodl, -1, 0.25
-  aright oscili 1, icps * 1.003 + amodr, -1, 0.25
-  aenv linseg 1, p3 * 0.25, 0.6, p3 * 0.7, 0.08, p3 * 0.05, 0
-  aleft butterhp tanh(aleft * 1.6) * aenv, 160
-  aright butterhp tanh(aright * 1.6) * aenv, 160
-  plain aleft * 0.4 * p4, aright * 0.4 * p4, 0.14, 0
-endin
-
-; Anvil: the tunnel's hit on every beat. p5 note, tone: how hard.
-instr Anvil
-  p3 = 0.36
-  icps = cpsmidinn(p5)
-  aindex expseg 2 + 5 * p6, 0.12, 0.4, 1, 0.3
-  amod oscili icps * 2.76 * aindex, icps * 2.76
-  a1 oscili 1, icps + amod, -1, 0.25
-  a2 oscili 0.7, icps * 1.506 + amod * 0.7, -1, 0.25
-  aenv expseg 1, 0.08, 0.22, 0.26, 0.006, 1, 0.005
-  afade linseg 1, 0.33, 1, 0.03, 0
-  aout butterhp tanh((a1 + a2) * 1.4) * aenv * afade, 320
-  aside delay aout, 0.011
-  plain (aout * 0.85 + aside * 0.35) * 0.3 * p4, (aout * 0.85 - aside * 0.35) * 0.3 * p4, 0.2, 0.05
-endin
-
-; Riser: noise through a rising filter with a rising tone inside. p5: where the tone arrives (0: g5). tone: share of it.
-instr Riser
-  inote = (p5 == 0) ? 79 : p5
-  aleft hiss
-  aright hiss
-  krise expon 1, p3, 30
-  kcut = 300 * krise
-  aleft butterbp aleft, kcut, kcut * 0.7
-  aright butterbp aright, kcut * 1.06, kcut * 0.7
-  ktone expon cpsmidinn(inote - 24), p3, cpsmidinn(inote)
-  a1 vco2 0.5, ktone
-  a2 vco2 0.5, ktone * 1.011
-  avoice butterlp a1 + a2, kcut * 1.5
-  aenv expseg 0.03, p3 * 0.8, 0.6, p3 * 0.2, 1
-  afade linseg 0, 0.02, 1, p3 - 0.05, 1, 0.005, 0, 0.025, 0
-  aleft = (aleft * 0.75 + avoice * 0.5 * p6) * aenv * afade * 0.5 * p4
-  aright = (aright * 0.75 + avoice * 0.5 * p6) * aenv * afade * 0.5 * p4
-  ducked aleft, aright, 0.15, 0
-endin
-
-; Faller: the riser's opposite, after a hit.
-instr Faller
-  aleft hiss
-  aright hiss
-  kcut expon 8000, p3, 250
-  aleft butterbp aleft, kcut, kcut * 0.8
-  aright butterbp aright, kcut * 0.94, kcut * 0.8
-  aenv expseg 1, p3, 0.01
-  ducked aleft * aenv * 0.42 * p4, aright * aenv * 0.42 * p4, 0.2, 0
-endin
-
-; Suck: a hit played backwards, ends where the next one starts.
-instr Suck
-  aleft hiss
-  aright hiss
-  kcut expon 400, p3, 9000
-  aleft butterlp aleft, kcut
-  aright butterlp aright, kcut
-  igap = 0.03 ; a breath before what follows
-  aenv expseg 0.004, p3 * 0.7, 0.12, p3 * 0.3 - igap - 0.004, 1, 0.004, 0.001, igap, 0.001
-  plain aleft * aenv * 0.5 * p4, aright * aenv * 0.5 * p4, 0.05, 0
+; Knock: a door somewhere in the building. tone: how bright.
+instr Knock
+  p3 = 0.7
+  a1 oscili 1, 172, -1, 0.25
+  a2 oscili 0.6, 289, -1, 0.25
+  a3 oscili 0.4, 431, -1, 0.25
+  aenv1 expseg 1, 0.16, 0.02, 1, 0.01
+  aenv2 expseg 1, 0.07, 0.02, 1, 0.01
+  anoise hiss
+  acrack expseg 1, 0.03, 0.02, 1, 0.01
+  acrack butterlp butterhp(anoise, 900) * acrack, 2500 + 6000 * p6 * p4
+  afade linseg 1, 0.66, 1, 0.03, 0, 1, 0
+  aout = (tanh(a1 * aenv1 + (a2 + a3) * aenv2) * 0.16 + acrack * 0.42) * afade * p4
+  plain aout, aout, 0.5, 0.1
 endin
 
 ; Flicker: a low chord chopped 30 times a second, the sound of a strobe at full speed. p5 root, tone: brightness.
@@ -137,9 +83,9 @@ instr Flicker
   achop lfo 1, 30, 3
   achop tonex achop, 900, 1
   kcut line 500 + 900 * p6, p3, 1600 + 5200 * p6
-  al moogladder2 (a1 + a2 + a3) * achop, kcut, 0.25
-  ar moogladder2 (a1 + a4 + a3) * (1 - achop), kcut * 1.1, 0.25
+  al moogladder2 (a1 + a2 + a3) * (0.25 + 0.75 * achop), kcut, 0.25
+  ar moogladder2 (a1 + a4 + a3) * (1 - 0.75 * achop), kcut * 1.1, 0.25
   aenv linseg 0, 0.01, 1, p3 - 0.03, 0.8, 0.02, 0
-  amid = (al + ar) * 0.5
-  plain (al * 0.6 + amid * 0.4) * aenv * 0.5 * p4, (ar * 0.6 + amid * 0.4) * aenv * 0.5 * p4, 0.12, 0
+  amid = (al + ar) * 0.6
+  plain (al * 0.45 + amid) * aenv * 0.4 * p4, (ar * 0.45 + amid) * aenv * 0.4 * p4, 0.16, 0
 endin

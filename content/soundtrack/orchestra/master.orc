@@ -1,92 +1,71 @@
 ; Master: sums the buses, makes the bass mono, shapes, limits, keeps the silences, and writes the file.
 
-; The faders
-giLowFader   = 0.62 ; kick and bass
-giPlainFader = 1.55 ; drums, impacts, room and echo
-giSynthFader = 2.15 ; what ducks
-giWidth      = 1.5 ; the sides against the middle
-giDrive      = 0.78 ; into the soft clip: how loud the piece is
-giCeiling    = 0.685 ; the limiter's ceiling, of full scale; leaves room for what Vorbis adds
-giAhead      = 96   ; samples that the limiter looks ahead: whole control periods
-
-; Peak of one control period, of the samples and of the curve halfway between them (a windowed sinc of six taps;
-; its delay of three samples is far inside the look-ahead).
-opcode truepeak, k, a
-  a0 xin
-  a1 delay1 a0
-  a2 delay1 a1
-  a3 delay1 a2
-  a4 delay1 a3
-  a5 delay1 a4
-  ahalf = 0.6103 * (a2 + a3) - 0.1387 * (a1 + a4) + 0.0284 * (a0 + a5)
-  ksample max_k a0, 1, 1
-  khalf max_k ahalf, 1, 1
-  xout max(ksample, khalf)
-endop
-
-; Limiter: the gain that each control period needs, its smallest over the look-ahead and their average,
-; so the gain has come down before the peak arrives. Delays the sound by giAhead samples.
-opcode limiter, aa, aa
+; Gain of the drum bus: the drums themselves, and beside them the same drums pressed flat. What lies far under the
+; threshold comes up by 4 dB, the loudest hits by 1.
+opcode pressed, a, aa
   aleft, aright xin
-  kpeak = max(truepeak(aleft), truepeak(aright))
-  kneed = min(1, giCeiling / max(kpeak, 0.0001))
-  k1 init 1
-  k2 init 1
-  k3 init 1
-  k4 init 1
-  klow1 init 1
-  klow2 init 1
-  kslow init 1
-  klow = min(min(kneed, k1), min(k2, min(k3, k4)))
-  k4 = k3
-  k3 = k2
-  k2 = k1
-  k1 = kneed
-  ; Down at once (the average below rounds it), up within a tenth of a second
-  kslow = (klow < kslow) ? klow : kslow + (klow - kslow) * (1 - exp(-ksmps / (0.05 * sr)))
-  kgain = (kslow + klow1 + klow2) / 3
-  klow2 = klow1
-  klow1 = kslow
-  again interp kgain
-  xout delay(aleft, giAhead / sr) * again, delay(aright, giAhead / sr) * again
+  aenv follow2 abs(aleft) + abs(aright), 0.002, 0.09
+  xout 1 + 0.6 * giPress / (aenv + giPress)
 endop
 
 instr Master
+#ifdef EVENTS
+  event_i "e", 0, 0
+#end
+#ifdef VOICES
+  schedule "Audition", 0, 1
+#end
   aduck limit gaDuck, 0, 1
   kveil = 17000 * (0.011 ^ port(gkVeil, 0.01))
   asynth = 1 - 0.62 * aduck
-  abass = (1 - 0.92 * aduck) * gaBass
-  abass butterlp abass, min(9000, kveil * 1.4)
+  aunder = 1 - 0.9 * aduck
 
   ; Kick and bass glue to each other
-  alow = tanh((gaKick * 0.95 + abass) * 1.05) * giLowFader
+  abass butterlp aunder * gaBass, min(9000, kveil * 1.4)
+  akick = gaKick * giKickFader
+  abass = abass * giBassFader
+  alow = tanh((akick + abass) * 1.6) / 1.6 + gaBoom
+
+  apress pressed gaDrumL, gaDrumR
   asynthl butterlp gaDuckL * asynth, kveil
   asynthr butterlp gaDuckR * asynth, kveil
-  aleft = gaPlainL * giPlainFader + asynthl * giSynthFader
-  aright = gaPlainR * giPlainFader + asynthr * giSynthFader
+  aleft = gaPlainL * giPlainFader + gaDrumL * apress * giDrumFader + asynthl * giSynthFader + gaWetL
+  aright = gaPlainR * giPlainFader + gaDrumR * apress * giDrumFader + asynthr * giSynthFader + gaWetR
+#ifdef STEMS
+  stems (aleft + aright) * 0.5 + alow, akick, abass, asynth, aunder, apress, kveil
+#end
 
-  ; Mono below 140 Hz: the sides lose their bass
-  amid = (aleft + aright) * 0.5
+  ; Mono at the bottom: the sides lose their bass
+  amid = (aleft + aright) * 0.5 + alow
   aside = (aleft - aright) * 0.5 * giWidth
-  aside butterhp aside, 140
-  amid = amid + alow
+  aside butterhp butterhp(aside, 180), 180
+
+  ; The build's high pass, one behind the other for a steep edge
+  amid butterhp butterhp(amid, gkThin), gkThin
   aleft = amid + aside
   aright = amid - aside
 
   ; Soft clip, limit, and the silences at the very end
   kdrive = giDrive * gkTrim
-  aleft butterhp tanh(aleft * kdrive), 24
-  aright butterhp tanh(aright * kdrive), 24
-  aleft butterlp aleft, 18500
-  aright butterlp aright, 18500
+  aleft tone tanh(aleft * kdrive), 22000
+  aright tone tanh(aright * kdrive), 22000
+  aleft butterlp aleft, 17500
+  aright butterlp aright, 17500
   aleft, aright limiter aleft, aright
   aopen = 1 - limit(gaHush, 0, 1)
   aopen delay aopen, giAhead / sr
   aend linseg 1, p3 - 1.6, 1, 1.5, 0, 0.1, 0 ; the tail's own end
   aopen = aopen * aend
+#ifdef VOICES
+  asides = gaPlainL + gaDrumL + gaDuckL + gaPlainR + gaDrumR + gaDuckR
+  fout "$VOICES", 2, asides * 0.15 + (gaBass + gaKick + gaBoom) * 0.3
+#end
+#ifdef MIX
   kperiod timeinstk
   if kperiod > giAhead / ksmps then
     fout "$OUT", 16, atone(aleft, 4) * aopen, atone(aright, 4) * aopen
   endif
-  clear gaPlainL, gaPlainR, gaDuckL, gaDuckR, gaBass, gaKick, gaRoomL, gaRoomR, gaEchoL, gaEchoR, gaDuck, gaHush
+#end
+  clear gaPlainL, gaPlainR, gaDrumL, gaDrumR, gaDuckL, gaDuckR, gaBass, gaKick, gaBoom, gaWetL, gaWetR
+  clear gaPlateL, gaPlateR, gaRoomL, gaRoomR, gaHallL, gaHallR, gaEchoL, gaEchoR, gaGate, gaDuck, gaHush
 endin

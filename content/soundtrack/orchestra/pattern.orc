@@ -23,10 +23,16 @@ opcode section, 0, io
   schedule "Trim", seconds(ibeat), 0, ampdb(idecibels)
 endop
 
-; at beat, voice, beats it lasts [, level, note, tone]
-opcode at, 0, iSipoo
-  ibeat, Svoice, ibeats, ilevel, inote, itone xin
-  schedule Svoice, seconds(giOrigin + ibeat), seconds(ibeats), ilevel, inote, itone
+; at beat, voice, beats it lasts [, level, note, tone [, the note it slides to, after how many beats]]
+opcode at, 0, iSipoooo
+  ibeat, Svoice, ibeats, ilevel, inote, itone, islide, iafter xin
+#ifdef EVENTS
+  fprints "$EVENTS", "%.4f %s %.4f %.4f %.2f %.3f %.2f %.3f\n", \
+    giOrigin + ibeat, Svoice, ibeats, ilevel, inote, itone, islide, iafter
+#end
+#ifdef SCORE
+  schedule Svoice, seconds(giOrigin + ibeat), seconds(ibeats), ilevel, inote, itone, islide, seconds(iafter)
+#end
 endop
 
 ; hush from, to: hard silence. Everything stops dead, tails and all, and comes back on the beat `to`.
@@ -111,62 +117,95 @@ opcode notename, ii, Si
   xout inote + 12 * (ioctave - 47), ipos + 1
 endop
 
-; play from, to, voice, notes [, level, transpose, tone, step]
-; The notes are words with blanks between them, one a step (a step is a quarter beat unless the last argument
-; says otherwise): a note name (g4), a chord (g3+bb3+d4), `.` a rest, `-` holds the note before it, `!` behind a
-; note accents it, `~` shortens it to half a step. `|` is a bar line and means nothing. The line repeats until the
-; beat `to`; notes never last beyond it.
-opcode play, 0, iiSSpooo
-  ifrom, ito, Svoice, Snotes, ilevel, itranspose, itone, istep xin
-  istep = (istep == 0) ? 0.25 : istep
-  ilength strlen Snotes
-  iword[] init 1024 ; where each step's word starts
-  ikind[] init 1024 ; its first character
+; Where each word of a line of notes starts: an array of positions, and how many words there are.
+opcode words, i[]i, S
+  Stext xin
+  ilength strlen Stext
+  iword[] init 1024
   icount = 0
   ichar = 0
   iblank = 1
   while ichar < ilength do
-    icode strchar Snotes, ichar
+    icode strchar Stext, ichar
     inow = (icode <= 32 || icode == 124) ? 1 : 0
     if inow == 0 && iblank == 1 then
       iword[icount] = ichar
-      ikind[icount] = icode
       icount += 1
     endif
     iblank = inow
     ichar += 1
   od
+  xout iword, icount
+endop
 
+; How many steps the note in word ithis lasts: itself and the words `-` behind it.
+opcode held, i, Si[]ii
+  Stext, iword[], icount, ithis xin
+  isteps = 1
+  icode strchar Stext, iword[(ithis + 1) % icount]
+  while icode == 45 && isteps < icount do
+    isteps += 1
+    icode strchar Stext, iword[(ithis + isteps) % icount]
+  od
+  xout isteps
+endop
+
+; The marks of the word at position ipos: velocity (1 with `!`), share of its last step (a half with `~`), whether it
+; slides (`_`).
+opcode marks, iii, Si
+  Stext, ipos xin
+  ilength strlen Stext
+  ivelocity = 0.8
+  ishare = 1
+  islides = 0
+  icode = 43
+  while icode > 32 && icode != 124 && ipos < ilength do
+    icode strchar Stext, ipos
+    ivelocity = (icode == 33) ? 1 : ivelocity
+    ishare = (icode == 126) ? 0.5 : ishare
+    islides = (icode == 95) ? 1 : islides
+    ipos += 1
+  od
+  xout ivelocity, ishare, islides
+endop
+
+; play from, to, voice, notes [, level, transpose, tone, step]
+; The notes are words with blanks between them, one a step (a step is a quarter beat unless the last argument
+; says otherwise): a note name (g4), a chord (g3+bb3+d4), `.` a rest, `-` holds the note before it, `!` behind a
+; note accents it, `~` shortens it to half a step, `_` slides into the next note without striking it anew. `|` is a bar
+; line and means nothing. The line repeats until the beat `to`; notes never last beyond it.
+opcode play, 0, iiSSpooo
+  ifrom, ito, Svoice, Snotes, ilevel, itranspose, itone, istep xin
+  istep = (istep == 0) ? 0.25 : istep
+  ilength strlen Snotes
+  iword[], icount words Snotes
   iindex = 0
+  islid = -1 ; a step that the note before has slid into
   while ifrom + iindex * istep < ito - 0.001 do
     ithis = iindex % icount
-    ikindnow = ikind[ithis]
-    if ikindnow >= 97 && ikindnow <= 103 then
-      ; Held steps after this one
-      isteps = 1
-      while ikind[(ithis + isteps) % icount] == 45 do
-        isteps += 1
-      od
-      ; The word: notes joined by +, then its marks
-      ipos = iword[ithis]
-      ivelocity = 0.8
-      ishort = 1
-      ilast = ipos
-      icode = 43
-      while icode > 32 && icode != 124 && ilast < ilength do
-        icode strchar Snotes, ilast
-        ivelocity = (icode == 33) ? 1 : ivelocity
-        ishort = (icode == 126) ? 0.5 : ishort
-        ilast += 1
-      od
+    ipos = iword[ithis]
+    icode strchar Snotes, ipos
+    if icode >= 97 && icode <= 103 && iindex != islid then
+      isteps held Snotes, iword, icount, ithis
+      ivelocity, ishare, islides marks Snotes, ipos
+      itarget = 0
+      iafter = isteps * istep
+      if islides == 1 then
+        islid = iindex + isteps
+        inext = islid % icount
+        itarget, iend notename Snotes, iword[inext]
+        itarget += itranspose
+        imore held Snotes, iword, icount, inext
+        isteps += imore
+      endif
       ilate = swing(iindex, istep)
       ibeat = ifrom + iindex * istep + ilate
       ; A note ends where its last step ends on the straight grid, single steps a little before
-      ibeats = min((isteps == 1 ? 0.85 * ishort : isteps) * istep - ilate, ito - ibeat)
+      ibeats = min((isteps == 1 ? 0.85 * ishare : isteps) * istep - ilate, ito - ibeat)
       icode = 43
       while icode == 43 do
         inote, ipos notename Snotes, ipos
-        at ibeat, Svoice, ibeats, ivelocity * ilevel, inote + itranspose, itone
+        at ibeat, Svoice, ibeats, ivelocity * ilevel, inote + itranspose, itone, itarget, iafter
         icode = 0
         if ipos < ilength then
           icode strchar Snotes, ipos

@@ -6,7 +6,7 @@ using testing::HasSubstr;
 
 namespace {
 
-/// What a program with one option, one of whose values is wrong, makes of a command line.
+/// The result of a command line for a program with one option, which refuses one value.
 struct Outcome {
     std::optional<int> status;
     std::vector<std::string> values; ///< as its reader got them
@@ -44,7 +44,7 @@ TEST(Arguments, ReachTheirReaderAsTheyAre) {
         EXPECT_EQ(outcome.out + outcome.error, "");
     }
     EXPECT_EQ(read({"--value", "one", "--value", "two"}).values, std::vector<std::string>{"two"})
-        << "the later one holds";
+        << "the later one counts";
     EXPECT_TRUE(read({}).values.empty());
 }
 

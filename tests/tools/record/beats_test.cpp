@@ -1,16 +1,11 @@
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"
+#include "tests/show/scores.h"
 
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
-
-namespace {
-
-constexpr int show_length = 384; // beats
-
-} // namespace
 
 TEST(Beats, AreReadAsAList) {
     EXPECT_THAT(parse_beats("0.5").value(), ElementsAre(500));
@@ -27,7 +22,7 @@ TEST(Beats, AreTakenOnceOnly) { EXPECT_THAT(parse_beats("1,2,1.0,0:3:1").value()
 
 TEST(Beats, AreCutToThreePlacesWithoutLosingAnyToBinaryFractions) {
     EXPECT_THAT(parse_beats("1.9999").value(), ElementsAre(1999));
-    for (Millibeats at = 0; at < show_length * one_beat; ++at) {
+    for (Millibeats at = 0; at < scores::show_beats * one_beat; ++at) {
         ASSERT_THAT(parse_beats(padded_beat(at)).value(), ElementsAre(at));
     }
 }
@@ -65,7 +60,7 @@ TEST(Beats, AreShownByTheFirstFrameAtOrAfterThem) {
     EXPECT_EQ(frame_at(0), 0);
     EXPECT_EQ(frame_at(1000), 28) << "27.27 frames";
     EXPECT_EQ(frame_at(11000), 300) << "on the very frame";
-    for (Millibeats at = 1; at < show_length * one_beat; ++at) {
+    for (Millibeats at = 1; at < scores::show_beats * one_beat; ++at) {
         int const frame = frame_at(at);
         ASSERT_FALSE(frame_is_before(frame, at)) << at;
         ASSERT_TRUE(frame_is_before(frame - 1, at)) << at;
@@ -88,12 +83,12 @@ TEST(Beats, WaitForTheClockWhereItIsAFrameLate) {
 TEST(Beats, AreCountedByTheShowsOwnClockOnThatFrame) {
     BeatClock clock(beat2seconds(beats_per_minute, 4));
     kore::StateData state;
-    for (int frame = 0; frame <= frame_at(show_length * one_beat); ++frame) {
+    for (int frame = 0; frame <= frame_at(scores::show_beats * one_beat); ++frame) {
         state.time = static_cast<float>(frame) / static_cast<float>(recorded_rate);
         clock.Count(state);
         int const next = (state.beat_count + 1) * one_beat;
         ASSERT_GE(frame, frame_at(state.beat_count * one_beat)) << "counted too early";
         ASSERT_LT(frame, frame_at(next)) << "counted too late";
     }
-    EXPECT_EQ(state.beat_count, show_length);
+    EXPECT_EQ(state.beat_count, scores::show_beats);
 }

@@ -60,7 +60,7 @@ TEST(RecordOptions, AreAllRead) {
     EXPECT_EQ(options.columns, 3u);
     EXPECT_FALSE(options.wire);
     EXPECT_TRUE(options.frame_after);
-    EXPECT_TRUE(read({"--no-wire", "--wire", "--list"}).options.wire) << "the later one holds";
+    EXPECT_TRUE(read({"--no-wire", "--wire", "--list"}).options.wire) << "the later one counts";
     EXPECT_FALSE(read({"--no-wire", "--wire", "--no-wire", "--list"}).options.wire);
     EXPECT_EQ(read({"--columns", "3", "--columns", "07", "--list"}).options.columns, 7u);
     EXPECT_EQ(read({"--out", "--list", "--beats", "1"}).options.folder, "--list") << "a value is taken as it is";

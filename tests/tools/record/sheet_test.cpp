@@ -1,8 +1,8 @@
 #include "tools/record/sheet.h"
 
+#include "tests/support/images.h"
 #include "tools/lettering/lettering.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -10,34 +10,10 @@ namespace {
 
 sf::Color const grey(128, 128, 128);
 
-sf::Image plain(unsigned int width, unsigned int height, sf::Color color) {
-    sf::Image image;
-    image.create(width, height, color);
-    return image;
-}
-
-// The picture as rows of '#' for black and '.' for the rest.
-std::vector<std::string> dots(sf::Image const& image) {
-    std::vector<std::string> rows;
-    for (unsigned int y = 0; y < image.getSize().y; ++y) {
-        std::string& row = rows.emplace_back();
-        for (unsigned int x = 0; x < image.getSize().x; ++x) {
-            row += image.getPixel(x, y) == sf::Color::Black ? '#' : '.';
-        }
-    }
-    return rows;
-}
-
-int black_pixels(sf::Image const& image) {
-    int count = 0;
-    for (std::string const& row : dots(image)) count += static_cast<int>(std::count(row.begin(), row.end(), '#'));
-    return count;
-}
-
 } // namespace
 
 TEST(Sheet, PicturesUpToTheWidestCellStayAsTheyAre) {
-    sf::Image picture = plain(widest_cell, 3, sf::Color::White);
+    sf::Image picture = plain_image(widest_cell, 3, sf::Color::White);
     picture.setPixel(7, 1, sf::Color::Black);
     sf::Image const cell = shrink_for_sheet(picture);
     EXPECT_EQ(cell.getSize(), picture.getSize());
@@ -45,7 +21,7 @@ TEST(Sheet, PicturesUpToTheWidestCellStayAsTheyAre) {
 }
 
 TEST(Sheet, LargerPicturesAreAveragedOverBlocks) {
-    sf::Image picture = plain(2 * widest_cell, 5, sf::Color::White);
+    sf::Image picture = plain_image(2 * widest_cell, 5, sf::Color::White);
     picture.setPixel(0, 0, sf::Color::Black);
     picture.setPixel(2, 2, sf::Color::Black);
     picture.setPixel(3, 3, sf::Color::Black);
@@ -54,13 +30,13 @@ TEST(Sheet, LargerPicturesAreAveragedOverBlocks) {
     EXPECT_EQ(cell.getPixel(0, 0), sf::Color(191, 191, 191)) << "one pixel of four is black";
     EXPECT_EQ(cell.getPixel(1, 1), grey);
     EXPECT_EQ(cell.getPixel(2, 0), sf::Color::White);
-    EXPECT_EQ(shrink_for_sheet(plain(1024, 768, sf::Color::White)).getSize(), sf::Vector2u(256, 192));
+    EXPECT_EQ(shrink_for_sheet(plain_image(1024, 768, sf::Color::White)).getSize(), sf::Vector2u(256, 192));
 }
 
 TEST(Sheet, LaysPicturesOutInRowsWithTheirLabels) {
     sf::Color const colors[] = {sf::Color::Red, sf::Color::Green, sf::Color::Blue};
     std::vector<SheetCell> cells;
-    for (sf::Color const& color : colors) cells.push_back({plain(40, 30, color), "x"});
+    for (sf::Color const& color : colors) cells.push_back({plain_image(40, 30, color), "x"});
     sf::Image const sheet = make_sheet(cells, 2);
     EXPECT_EQ(sheet.getSize(), sf::Vector2u(2 * 44 + 4, 2 * 56 + 4));
     EXPECT_EQ(sheet.getPixel(4, 4), colors[0]);
@@ -73,12 +49,12 @@ TEST(Sheet, LaysPicturesOutInRowsWithTheirLabels) {
     std::vector<SheetCell> unlabelled = cells;
     for (SheetCell& cell : unlabelled) cell.label.clear();
     EXPECT_EQ(black_pixels(make_sheet(unlabelled, 2)), 0);
-    sf::Image letter = plain(5, 7, sf::Color::White);
+    sf::Image letter = plain_image(5, 7, sf::Color::White);
     write_text(letter, 0, 0, 1, "x");
     EXPECT_EQ(black_pixels(sheet), 3 * 4 * black_pixels(letter)) << "three labels, two pixels a dot";
 }
 
 TEST(Sheet, IsNoWiderThanItsPictures) {
-    std::vector<SheetCell> const cells = {{plain(40, 30, sf::Color::Red), ""}};
+    std::vector<SheetCell> const cells = {{plain_image(40, 30, sf::Color::Red), ""}};
     EXPECT_EQ(make_sheet(cells, 100).getSize().x, 48u);
 }

@@ -1,4 +1,4 @@
-# Finds every test that DELIBERATE.md names ("Suite.Name") in the sources of the tests.
+# Checks that every test that DELIBERATE.md names ("Suite.Name") exists in the sources of the tests.
 # cmake -DROOT=<source folder> -P deliberate.cmake
 cmake_minimum_required(VERSION 3.25)
 file(STRINGS ${ROOT}/DELIBERATE.md rows REGEX "^\\| `|^\\| .*\\|$")

@@ -1,71 +1,46 @@
-#include "difference.h"
-#include "tests/show/scores.h"
+// The recorder as a program: what it writes, its messages and its exit status.
 
-#include <cstdio>
+#include "tests/show/scores.h"
+#include "tests/support/command.h"
+#include "tests/support/images.h"
+#include "tests/support/temp.h"
+
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
+#include <iomanip>
 #include <sstream>
-#include <sys/wait.h>
 
 namespace fs = std::filesystem;
+using support::Outcome;
+using support::read_all;
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string error;
-};
-
-/// The short names of the scenes, as a message lists them.
+/// The short names of the scenes, as messages list them.
 std::string names() {
     std::string list;
     for (SceneEntry const& scene : running_order()) list += (list.empty() ? "" : ", ") + std::string(scene.name);
     return list;
 }
 
-std::string content(fs::path const& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream all;
-    all << file.rdbuf();
-    return all.str();
+/// A beat as it appears in file names: "020.100".
+std::string padded(double beats) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(3) << std::setw(7) << std::setfill('0') << beats;
+    return text.str();
 }
 
 /// Runs the program in an empty folder of its own.
 class Recorder : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string const name = testing::UnitTest::GetInstance()->current_test_info()->name();
-        folder = fs::path(HARDSILENCE_BINARY_DIR) / "tests/pictures" / ("recorder_test." + name);
-        fs::remove_all(folder);
-        fs::create_directories(folder);
+    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {}) const {
+        return support::run_shell("'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
+                                  {.folder = folder.Path(""), .environment = environment});
     }
 
-    void TearDown() override {
-        if (!HasFailure()) fs::remove_all(folder);
-    }
+    std::string In(std::string const& file) const { return folder.Path(file); }
 
-    Outcome Record(std::string const& arguments, std::string const& environment = "") const {
-        std::string const log = (folder / "error.txt").string();
-        std::string const command = "cd '" + folder.string() + "' && " + environment +
-                                    " '" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments + " 2>'" + log +
-                                    "'";
-        FILE* const pipe = popen(command.c_str(), "r");
-        if (!pipe) return {-1, "", "cannot run it"};
-        Outcome outcome;
-        char buffer[4096];
-        for (std::size_t n = 0; (n = fread(buffer, 1, sizeof buffer, pipe)) > 0;) outcome.out.append(buffer, n);
-        int const status = pclose(pipe);
-        outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        outcome.error = content(log);
-        fs::remove(log);
-        return outcome;
-    }
-
-    std::string In(std::string const& file) const { return (folder / file).string(); }
-
-    fs::path folder;
+    support::TempFolder const folder;
 };
 
 } // namespace
@@ -74,17 +49,23 @@ TEST_F(Recorder, WritesPicturesNamedByBeatIntoAFolderOfTheCaller) {
     Outcome const outcome = Record("--beats 12.4,0.5 --frames --size 64x48 --out a/b");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.error, "");
-    EXPECT_EQ(outcome.out, In("a/b/beat_000.500.png") + "\n" + In("a/b/beat_000.500b.png") + "\n" +
-                               In("a/b/beat_012.400.png") + "\n" + In("a/b/beat_012.400b.png") + "\n");
+    EXPECT_EQ(outcome.output, In("a/b/beat_000.500.png") + "\n" + In("a/b/beat_000.500b.png") + "\n" +
+                                  In("a/b/beat_012.400.png") + "\n" + In("a/b/beat_012.400b.png") + "\n");
     sf::Image image;
     ASSERT_TRUE(image.loadFromFile(In("a/b/beat_012.400.png")));
     EXPECT_EQ(image.getSize(), sf::Vector2u(64, 48));
 }
 
 TEST_F(Recorder, CountsFromTheFirstBeatOfAScene) {
-    EXPECT_EQ(Record("--beats 65.5 --size 64x48 --out .").status, 0);
-    EXPECT_EQ(Record("--beats 1.5 --scene Swapper --size 64x48 --out .").out, In("swapper_001.500.png") + "\n");
-    EXPECT_EQ(content(In("swapper_001.500.png")), content(In("beat_065.500.png")));
+    std::size_t const third = 2;
+    std::string const in_show = padded(scores::first_beat(third) + 1.5);
+    std::string const in_scene = std::string(running_order()[third].name) + "_001.500.png";
+    EXPECT_EQ(Record("--beats " + in_show + " --size 64x48 --out .").status, 0);
+    EXPECT_EQ(
+        Record("--beats 1.5 --scene '" + std::string(scores::all()[third].title) + "' --size 64x48 --out .").output,
+        In(in_scene) + "\n");
+    EXPECT_NE(read_all(In(in_scene)), "");
+    EXPECT_EQ(read_all(In(in_scene)), read_all(In("beat_" + in_show + ".png")));
 }
 
 TEST_F(Recorder, DrawsTheSamePixelsOnEveryRun) {
@@ -92,11 +73,11 @@ TEST_F(Recorder, DrawsTheSamePixelsOnEveryRun) {
     ASSERT_EQ(Record(beats + "--out first --sheet first/sheet.png").status, 0);
     ASSERT_EQ(Record(beats + "--out second --sheet second/sheet.png").status, 0);
     int count = 0;
-    for (fs::directory_entry const& entry : fs::directory_iterator(folder / "first")) {
+    for (fs::directory_entry const& entry : fs::directory_iterator(In("first"))) {
         SCOPED_TRACE(entry.path().filename());
-        std::string const first = content(entry.path());
+        std::string const first = read_all(entry.path());
         EXPECT_FALSE(first.empty());
-        EXPECT_TRUE(first == content(folder / "second" / entry.path().filename()));
+        EXPECT_TRUE(first == read_all(In("second" / entry.path().filename())));
         ++count;
     }
     EXPECT_EQ(count, 19);
@@ -115,32 +96,35 @@ TEST_F(Recorder, SheetHoldsThePicturesInTheOrderAskedFor) {
     EXPECT_EQ(differing_pixels(cell, word, 0), 0u);
 }
 
-TEST_F(Recorder, DrawsThePulseWireUnlessToldOtherwise) {
-    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out with", "HARDSILENCE_WIRE=0").status, 0);
-    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out without --no-wire", "HARDSILENCE_WIRE=1").status, 0);
-    EXPECT_NE(content(In("with/beat_184.500.png")), content(In("without/beat_184.500.png")));
+TEST_F(Recorder, DrawsThePulseWireByDefault) {
+    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out with", {"HARDSILENCE_WIRE=0"}).status, 0);
+    ASSERT_EQ(Record("--beats 184.5 --size 256x192 --out without --no-wire", {"HARDSILENCE_WIRE=1"}).status, 0);
+    EXPECT_NE(read_all(In("with/beat_184.500.png")), read_all(In("without/beat_184.500.png")));
 }
 
 TEST_F(Recorder, TakesTheMomentsOfEveryScene) {
     ASSERT_EQ(Record("--overview --size 16x12 --out .").status, 0);
     std::size_t pictures = 0;
-    for (fs::directory_entry const& entry : fs::directory_iterator(folder)) {
+    for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
         pictures += entry.path().extension() == ".png" ? 1 : 0;
     }
     EXPECT_EQ(pictures, running_order().size() * running_order()[0].moments.size());
-    EXPECT_TRUE(fs::exists(In("beat_000.500.png"))) << "half a beat into the first scene";
-    EXPECT_TRUE(fs::exists(In("beat_020.100.png"))) << "4.1 beats into the second, which begins at 16";
+    for (std::size_t i = 0; i < running_order().size(); ++i) {
+        for (float const moment : running_order()[i].moments) {
+            std::string const file = "beat_" + padded(scores::first_beat(i) + static_cast<double>(moment)) + ".png";
+            EXPECT_TRUE(fs::exists(In(file))) << file;
+        }
+    }
 }
 
 TEST_F(Recorder, ListsTheScenes) {
     Outcome const outcome = Record("--list");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.error, "");
-    std::istringstream lines(outcome.out);
+    std::istringstream lines(outcome.output);
     std::string line;
     std::getline(lines, line);
     EXPECT_EQ(line, "name       first beat  beats  title");
-    int first = 0;
     for (std::size_t i = 0; i < scores::all().size(); ++i) {
         scores::Score const& score = scores::all()[i];
         std::string name;
@@ -150,10 +134,9 @@ TEST_F(Recorder, ListsTheScenes) {
         lines >> name >> from >> beats >> std::ws;
         std::getline(lines, title);
         EXPECT_EQ(name, running_order()[i].name);
-        EXPECT_EQ(from, first) << name;
+        EXPECT_EQ(from, scores::first_beat(i)) << name;
         EXPECT_EQ(beats, score.length) << name;
         EXPECT_EQ(title, score.title);
-        first += score.length;
     }
     EXPECT_FALSE(std::getline(lines, line)) << line;
 }
@@ -161,13 +144,18 @@ TEST_F(Recorder, ListsTheScenes) {
 TEST_F(Recorder, PlaysToTheLastFrameAndNotPastIt) {
     std::string const last = std::to_string(scores::show_beats - 1);
     EXPECT_EQ(Record("--beats " + last + ".95 --size 16x12 --out .").status, 0);
-    EXPECT_EQ(Record("--beats 15.9 --scene intro --size 16x12 --out .").status, 0);
+    std::string const last_of_first = std::to_string(scores::all()[0].length - 1);
+    EXPECT_EQ(
+        Record("--beats " + last_of_first + ".9 --scene " + running_order()[0].name + " --size 16x12 --out .").status,
+        0);
 }
 
 TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
-    std::ofstream(In("file")) << "in the way";
+    folder.Write("file", "in the way");
     std::string const beats = std::to_string(scores::show_beats);
     std::string const last = std::to_string(scores::show_beats - 1);
+    scores::Score const& first = scores::all()[0];
+    std::string const length = std::to_string(first.length);
     std::string const past_the_end = " lies past the last frame of the show, which has " + beats + " beats";
     std::pair<std::string, std::string> const cases[] = {
         {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"},
@@ -175,7 +163,8 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
         {"--beats " + beats + " --out .", "beat " + beats + past_the_end},
         {"--beats " + last + ".99 --out .", "beat " + last + ".99" + past_the_end},
         {"--beats " + last + ".95 --frames --out .", "beat " + last + ".95" + past_the_end},
-        {"--beats 1,16 --scene intro --out .", "beat 16 lies past the last frame of Intro, which has 16 beats"},
+        {"--beats 1," + length + " --scene " + running_order()[0].name + " --out .",
+         "beat " + length + " lies past the last frame of " + first.title + ", which has " + length + " beats"},
         {"--beats 1 --out file", "cannot make the folder " + In("file") + ": Not a directory"},
         {"--beats 1 --out file/deeper", "cannot make the folder " + In("file/deeper") + ": Not a directory"},
         {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png"},
@@ -187,9 +176,9 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
         Outcome const outcome = Record(arguments);
         EXPECT_EQ(outcome.status, 1);
         EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
-        EXPECT_EQ(outcome.out, "");
+        EXPECT_EQ(outcome.output, "");
     }
-    for (fs::directory_entry const& entry : fs::directory_iterator(folder)) {
+    for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
         EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
     }
 }
@@ -202,7 +191,7 @@ TEST_F(Recorder, SaysSoWhereTheDriverCannotDoIt) {
 }
 
 TEST_F(Recorder, SaysSoWhereThereIsNoDriver) {
-    Outcome const outcome = Record("--beats 1 --out .", "__EGL_VENDOR_LIBRARY_FILENAMES=/dev/null");
+    Outcome const outcome = Record("--beats 1 --out .", {"__EGL_VENDOR_LIBRARY_FILENAMES=/dev/null"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.error, "hardsilence-record: EGL offers no OpenGL context to draw off-screen with\n");
 }

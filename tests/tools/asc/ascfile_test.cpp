@@ -1,5 +1,6 @@
 // The mesh tool's reader and writer of mesh files.
 
+#include "tests/support/command.h"
 #include "tests/support/temp.h"
 #include "tools/asc/ascfile.h"
 
@@ -43,8 +44,7 @@ TEST(AscWrite, RoundsToSixDecimalsAndWritesNoNegativeZero) {
 
 TEST(AscWrite, DoesNotDependOnTheLocale) {
     support::TempFolder const folder;
-    std::string const compile = "localedef -i de_DE -f UTF-8 '" + folder.Path("de_DE.UTF-8") + "'";
-    ASSERT_EQ(std::system(compile.c_str()), 0);
+    ASSERT_EQ(support::run({"localedef", "-i", "de_DE", "-f", "UTF-8", folder.Path("de_DE.UTF-8")}).status, 0);
     setenv("LOCPATH", folder.Path("").c_str(), 1);
     std::string const before = std::setlocale(LC_ALL, nullptr);
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);

@@ -1,25 +1,17 @@
 // The mesh tool as a program: its commands, its messages and its exit status.
 
+#include "tests/support/command.h"
+#include "tests/support/temp.h"
 #include "tools/asc/ascfile.h"
 
 #include <SFML/Graphics/Image.hpp>
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <filesystem>
 #include <string>
 
+using support::Outcome;
+
 namespace {
-
-namespace fs = std::filesystem;
-
-struct Outcome {
-    int status;
-    std::string said; ///< both streams
-};
 
 /// What a part of a picture holds.
 struct Tally {
@@ -43,41 +35,22 @@ Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
 /// Each test works in an empty folder of its own.
 class AscCommand : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("asc_command_test." + std::to_string(getpid()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     Outcome call(std::string const& arguments) const {
-        std::string const command = "cd '" + folder.string() + "' && '" ASC_PROGRAM "' " + arguments + " 2>&1";
-        std::FILE* const pipe = popen(command.c_str(), "r");
-        EXPECT_TRUE(pipe);
-        std::string said;
-        std::array<char, 4096> buffer{};
-        while (std::size_t const n = std::fread(buffer.data(), 1, buffer.size(), pipe)) said.append(buffer.data(), n);
-        int const status = pclose(pipe);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, said};
+        return support::run_shell("'" ASC_PROGRAM "' " + arguments, {.folder = folder.Path("")});
     }
-    void put(std::string const& name, std::string const& text) const {
-        ASSERT_TRUE(asc::write_text((folder / name).string(), text));
-    }
-    std::string get(std::string const& name) const {
-        std::string text;
-        EXPECT_TRUE(asc::read_text((folder / name).string(), text)) << name;
-        return text;
-    }
+    void put(std::string const& name, std::string const& text) const { folder.Write(name, text); }
+    std::string get(std::string const& name) const { return support::read_all(folder.Path(name)); }
 
-    /// The part of the picture that `preview` draws, all of it unless told.
+    /// The tally of a part of the picture that `preview` draws, by default all of it.
     Tally preview(std::string const& arguments, sf::IntRect const& part = {0, 0, 1024, 768}) const {
         EXPECT_EQ(call("preview " + arguments + " -o view.png").status, 0);
         sf::Image image;
-        EXPECT_TRUE(image.loadFromFile((folder / "view.png").string()));
+        EXPECT_TRUE(image.loadFromFile(folder.Path("view.png")));
         EXPECT_EQ(image.getSize(), sf::Vector2u(1024, 768));
         return tally_of(image, part);
     }
 
-    fs::path folder;
+    support::TempFolder const folder;
 };
 
 /// A box 2 x 1 x 1 with faces of four corners, one of them turned the wrong way.
@@ -96,7 +69,7 @@ char const triangle_stl[] = "solid s\nfacet normal 0 0 1\nouter loop\nvertex 0 0
 TEST_F(AscCommand, ConvertMakesAMeshWithoutFaults) {
     put("box.obj", box_obj);
     Outcome const run = call("convert box.obj -o box.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("box.asc"));
     EXPECT_TRUE(file.faults.empty());
     ASSERT_EQ(file.objects.size(), 1U);
@@ -111,7 +84,7 @@ TEST_F(AscCommand, ConvertTakesSeveralInputsUnderTheNamesGiven) {
     put("a.off", tetrahedron_off);
     put("b.stl", triangle_stl);
     Outcome const run = call("convert One=a.off Two_b=b.stl -o both.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("both.asc"));
     ASSERT_EQ(file.objects.size(), 2U);
     EXPECT_EQ(file.objects[0].object.name, "One");
@@ -121,7 +94,7 @@ TEST_F(AscCommand, ConvertTakesSeveralInputsUnderTheNamesGiven) {
 TEST_F(AscCommand, ConvertFlatRefinedAndCentred) {
     put("box.obj", box_obj);
     Outcome const run = call("convert --flat --centre 0,0,0.5 --refine 0.3 --min-angle 25 box.obj -o flat.asc");
-    EXPECT_EQ(run.status, 0) << run.said;
+    EXPECT_EQ(run.status, 0) << run.error;
     auto const file = asc::parse(get("flat.asc"));
     ASSERT_EQ(file.objects.size(), 1U);
     asc::Object const& object = file.objects[0].object;
@@ -152,8 +125,8 @@ TEST_F(AscCommand, CheckPrintsEveryObjectAndEveryFaultWithItsLine) {
     put("a.off", tetrahedron_off);
     EXPECT_EQ(call("convert a.off -o a.asc").status, 0);
     Outcome const good = call("check a.asc");
-    EXPECT_EQ(good.said, "a.asc: a: 4 vertices, 4 faces, x -1.000..1.000 y -1.000..1.000 z -1.000..1.000, closed, "
-                         "smallest angle 60.0, 0% below 15\n");
+    EXPECT_EQ(good.output, "a.asc: a: 4 vertices, 4 faces, x -1.000..1.000 y -1.000..1.000 z -1.000..1.000, closed, "
+                           "smallest angle 60.0, 0% below 15\n");
     std::string text = get("a.asc");
     text.replace(text.find("AB:1 BC:1 CA:1"), 14, "AB:1 BC:0 CA:1");
     put("b.asc", text);
@@ -162,7 +135,7 @@ TEST_F(AscCommand, CheckPrintsEveryObjectAndEveryFaultWithItsLine) {
     put("c.asc", text);
     Outcome const bad = call("check c.asc");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_EQ(bad.said, "c.asc:8: expected vertex 4 with X, Y and Z; the header's counts may be wrong\n");
+    EXPECT_EQ(bad.output, "c.asc:8: expected vertex 4 with X, Y and Z; the header's counts may be wrong\n");
 }
 
 TEST_F(AscCommand, PreviewDrawsFacesAndLinesAsTheShowDoes) {
@@ -182,7 +155,7 @@ TEST_F(AscCommand, PreviewDrawsFacesAndLinesAsTheShowDoes) {
     std::string const moved = "square.asc --no-lines --camera 0,0,2 --scale 1,0.5,1 --turn 0,0,90 --at -1,0,-2";
     EXPECT_EQ(preview(moved).black, 128 * 192);
     EXPECT_EQ(preview(moved, {512 - 128 - 64, 384 - 96, 128, 192}).black, 128 * 192);
-    // From the right by as much, looking that way too.
+    // From 1 to the right, looking 1 to the right.
     EXPECT_EQ(preview("square.asc --no-lines --camera 1,0,2 --look 1,0,0", {0, 192, 512, 384}).black, inside);
     // White lines take from the black body; a square's diagonal is hidden unless all lines are drawn.
     std::string const aside = " --camera 0,0,4 --turn 20,30,0";
@@ -197,7 +170,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);
     ASSERT_EQ(call("sheet square.asc box.asc square.asc --columns 2 --panel 200 -o sheet.png").status, 0);
     sf::Image image;
-    ASSERT_TRUE(image.loadFromFile((folder / "sheet.png").string()));
+    ASSERT_TRUE(image.loadFromFile(folder.Path("sheet.png")));
     EXPECT_EQ(image.getSize(), sf::Vector2u(2 * 424, 2 * 230));
 
     // A square is drawn 4/3 as wide as it is high, over 0.92 of the panel: 184 x 138 pixels. Four sides are black, the
@@ -209,7 +182,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     EXPECT_EQ(image.getPixel(308, 60), sf::Color::White) << "between the lines";
     EXPECT_GT(tally_of(image, {8, 208, 408, 22}).black, 60) << "the caption";
     EXPECT_EQ(tally_of(image, {8, 238, 200, 200}).ink, solid.ink) << "an object twice";
-    EXPECT_EQ(tally_of(image, {424, 230, 424, 230}).white, 0) << "nothing more there";
+    EXPECT_EQ(tally_of(image, {424, 230, 424, 230}).white, 0) << "nothing else there";
 
     // The box's nearest corner, turned by 25 degrees about x and -30 about y, lies at (150, 96); three lines meet
     // there.
@@ -218,7 +191,7 @@ TEST_F(AscCommand, SheetShowsEveryObjectSolidAndItsLines) {
     EXPECT_EQ(image.getPixel(432 + 160, 8 + 80), sf::Color::Black) << "a face beside it";
 
     ASSERT_EQ(call("preview square.asc").status, 0);
-    EXPECT_TRUE(image.loadFromFile((folder / "square.png").string())) << "without a camera it draws a sheet";
+    EXPECT_TRUE(image.loadFromFile(folder.Path("square.png"))) << "without a camera it draws a sheet";
     EXPECT_EQ(image.getSize(), sf::Vector2u(784, 410));
 }
 
@@ -235,7 +208,7 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"convert -o a.asc", "INPUT is required"},
         {"convert a.off -o", "-o: 1 required OUT.asc missing"},
         {"convert --fast a.off -o a.asc", "The following argument was not expected: --fast"},
-        {"convert --refine nought a.off -o a.asc", "--refine: 'nought' is not a number from 0.0001 to 1000000"},
+        {"convert --refine none a.off -o a.asc", "--refine: 'none' is not a number from 0.0001 to 1000000"},
         {"convert --refine -1 a.off -o a.asc", "--refine: '-1' is not a number from 0.0001 to 1000000"},
         {"convert --weld nan a.off -o a.asc", "--weld: 'nan' is not a number from 0.000001 to 1000"},
         {"convert --min-angle 50 a.off -o a.asc", "--min-angle: '50' is not a number from 0 to 30"},
@@ -264,27 +237,29 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         SCOPED_TRACE(arguments);
         Outcome const run = call(arguments);
         EXPECT_EQ(run.status, 1);
-        EXPECT_EQ(run.said, "asc: " + line + "\n");
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(run.error, "asc: " + line + "\n");
     }
     Outcome const junk = call("convert junk.off -o a.asc");
     EXPECT_EQ(junk.status, 1);
-    EXPECT_TRUE(junk.said.starts_with("asc: junk.off: "));
-    EXPECT_EQ(std::count(junk.said.begin(), junk.said.end(), '\n'), 1);
+    EXPECT_TRUE(junk.error.starts_with("asc: junk.off: "));
+    EXPECT_EQ(std::count(junk.error.begin(), junk.error.end(), '\n'), 1);
 }
 
-TEST_F(AscCommand, TellsItsUseAndItsVersion) {
+TEST_F(AscCommand, PrintsItsHelpAndItsVersion) {
     Outcome const help = call("--help");
     EXPECT_EQ(help.status, 0);
     for (char const* const word : {"convert", "--weld DISTANCE", "join", "check", "--shatter", "preview",
                                    "--camera X,Y,Z", "--no-lines ", "sheet", "--panel PIXELS"}) {
-        EXPECT_NE(help.said.find(word), std::string::npos) << word;
+        EXPECT_NE(help.output.find(word), std::string::npos) << word;
     }
-    EXPECT_EQ(call("--help 2>/dev/null #").said, help.said);
+    EXPECT_EQ(help.error, "");
     EXPECT_EQ(call("convert --help").status, 0);
-    EXPECT_EQ(call("").status, 1);
-    EXPECT_EQ(call("").said, help.said) << "without a command, too";
-    EXPECT_EQ(call("2>&1 >/dev/null #").said, help.said);
-    EXPECT_EQ(call("--version").said, "asc " HARDSILENCE_VERSION "\n");
+    Outcome const bare = call("");
+    EXPECT_EQ(bare.status, 1);
+    EXPECT_EQ(bare.output, "");
+    EXPECT_EQ(bare.error, help.output) << "without a command, the help";
+    EXPECT_EQ(call("--version").output, "asc " HARDSILENCE_VERSION "\n");
     EXPECT_EQ(call("--version").status, 0);
 }
 

@@ -46,7 +46,7 @@ std::vector<std::string> fault_texts(asc::Object const& object, bool shattered =
     return texts;
 }
 
-/// Two cubes beside each other.
+/// Two cubes side by side.
 asc::Object two_cubes() {
     asc::Object both = cube();
     for (asc::Vec3 p : cube().vertices) both.vertices.push_back({p.x + 5, p.y, p.z});
@@ -60,7 +60,7 @@ double area(asc::Object const& object) {
     return sum;
 }
 
-TEST(AscMesh, PartsHangTogetherOverTheEdgesThatJoinThem) {
+TEST(AscMesh, PartsAreConnectedByTheEdgesThatJoinThem) {
     asc::Object const object = two_cubes();
     asc::Edges const edges = asc::edges_of(object);
     auto const cubes = asc::parts_of(object, edges, [](auto const&) { return true; });
@@ -113,9 +113,9 @@ TEST(AscCreases, TheFlagCAAloneDrawsNothing) {
     EXPECT_TRUE(asc::drawn_edges(object).empty());
 }
 
-TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDoubleOrLoose) {
+TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDuplicateOrUnused) {
     asc::Object object = cube();
-    object.vertices.push_back({5, 5, 5});           // loose
+    object.vertices.push_back({5, 5, 5});           // unused
     object.vertices.push_back({-1, -1, -1.000001}); // where vertex 0 is
     object.faces.push_back({{9, 2, 3}, {}});        // face 0 once more
     object.faces.push_back({{0, 9, 3}, {}});        // without area once joined
@@ -124,7 +124,7 @@ TEST(AscRepair, CleanJoinsVerticesAndDropsWhatIsDoubleOrLoose) {
     EXPECT_EQ(object.faces.size(), 12U);
 }
 
-TEST(AscRepair, CleanJoinsWhatLiesNearerThanTheDistance) {
+TEST(AscRepair, CleanJoinsWhatIsCloserThanTheDistance) {
     for (asc::Vec3 const& aside : {asc::Vec3{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {-1, 0, 0}, {0, -1, 0}, {0, 0, -1}}) {
         for (double const away : {0.009, 0.011}) {
             asc::Object object = cube();
@@ -219,7 +219,7 @@ TEST(AscRefine, KeepsASolidClosedWithoutTJunctions) {
                         q = object.vertices[static_cast<std::size_t>(b)];
         int const on_edge = (std::abs(p.x) == 1 && p.x == q.x) + (std::abs(p.y) == 1 && p.y == q.y) +
                             (std::abs(p.z) == 1 && p.z == q.z);
-        EXPECT_EQ(on_edge, 2) << "a crease off the cube's edges";
+        EXPECT_EQ(on_edge, 2) << "a crease that is no edge of the cube";
     }
 }
 
@@ -271,7 +271,7 @@ TEST(AscCheck, FindsEachFault) {
     EXPECT_TRUE(contains(broken([](auto& o) { o.faces[0].edge = {1, 1, 1}; }), "is drawn and is no crease"));
 }
 
-TEST(AscCheck, TellsWhenAShatteredMeshHasTooManyFaces) {
+TEST(AscCheck, ReportsAShatteredMeshWithTooManyFaces) {
     asc::Object strip{"strip", {{0, 0, 0}, {0, 1, 0}}, {}};
     for (int i = 1; i <= 5001; ++i) {
         strip.vertices.push_back({0.5 * i, 0, 0});
