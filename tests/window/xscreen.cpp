@@ -139,6 +139,8 @@ void XScreen::Manage() {
         return count == 1;
     });
     if (!there) throw std::runtime_error("openbox does not start: " + manager->Error());
+    // It says that it is there before it looks for windows; one that is mapped meanwhile can be lost.
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
 }
 
 void XScreen::Randr(std::vector<std::string> const& arguments) const {
