@@ -2,17 +2,20 @@
 
 #include "kore/music-sfml.h"
 #include "kore/reportedplaces.h"
+#include "runtime/awakescreen.h"
 #include "runtime/datafolder.h"
 #include "runtime/display.h"
 #include "runtime/environment.h"
 #include "runtime/frame.h"
+#include "runtime/opening.h"
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
+#include "runtime/timing.h"
 #include "show/show.h"
 
 #include <GL/gl.h>
-#include <SFML/System/Clock.hpp>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 bool quit = false;
@@ -22,7 +25,6 @@ namespace {
 constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
 constexpr int last_beat = 9998;        // safety stop
-constexpr int largest_window = 32767;  // pixels: what the X protocol can say
 
 struct HeldKey {
     sf::Keyboard::Key key;
@@ -73,6 +75,10 @@ constexpr PressedKey pressed_keys[] = {
     {sf::Keyboard::L, [](Controls&) {}}, // Deliberate: known, and does nothing
 };
 
+bool toggles_full_screen(sf::Event::KeyEvent const& key) {
+    return key.code == sf::Keyboard::F11 || (key.alt && key.code == sf::Keyboard::Enter);
+}
+
 void key_pressed(Controls& controls, sf::Keyboard::Key key) {
     if (key == sf::Keyboard::Escape) controls.close = true;
     if (!mushroom_mode) return;
@@ -87,23 +93,6 @@ void key_released(Controls& controls, sf::Keyboard::Key key) {
     controls.view.Release(movement_of(key));
     if (key == sf::Keyboard::Period) controls.demo.SkipSceneFw();
     if (key == sf::Keyboard::Comma) controls.demo.SkipSceneBw();
-}
-
-/// @return false, after a line on standard error, where no window can be opened
-bool window_possible() {
-    if (resolution_x < 1 || resolution_y < 1 || resolution_x > largest_window) {
-        std::cerr << "Cannot open a window of " << resolution_x << "x" << resolution_y << " pixels." << std::endl;
-        return false;
-    }
-    if (!display_available()) {
-        std::cerr << "Cannot open the display. Is DISPLAY set, and an X server running?" << std::endl;
-        return false;
-    }
-    if (video_fullscreen == sf::Style::Fullscreen && sf::VideoMode::getFullscreenModes().empty()) {
-        std::cerr << "This display offers no full-screen modes; the show plays in a window." << std::endl;
-        video_fullscreen = sf::Style::Close;
-    }
-    return true;
 }
 
 } // namespace
@@ -147,12 +136,17 @@ void frame_counter(float const& now, float& fps) {
 void handle_event(Controls& controls, sf::Event const& event) {
     switch (event.type) {
     case sf::Event::Resized:
-        glViewport(0, 0, static_cast<GLsizei>(event.size.width), static_cast<GLsizei>(event.size.height));
+        if (controls.desktop) {
+            controls.desktop->Resized(event.size.width, event.size.height);
+        } else {
+            glViewport(0, 0, static_cast<GLsizei>(event.size.width), static_cast<GLsizei>(event.size.height));
+        }
         break;
     case sf::Event::Closed:
         quit = true;
         break;
     case sf::Event::KeyPressed:
+        if (controls.desktop && toggles_full_screen(event.key)) controls.desktop->ToggleFullScreen();
         key_pressed(controls, event.key.code);
         break;
     case sf::Event::KeyReleased:
@@ -172,49 +166,72 @@ bool show_over(int beat_count, kore::Demo const& demo) {
     return beat_count > last_beat || quit || stop_requested() || demo.GetFinished();
 }
 
-void run_show(sf::Window& window) {
-    sf::Clock clock;
-    std::shared_ptr<kore::Music> music = std::make_shared<kore::MusicSFML>();
+void run_show(sf::Window& window, Settings const& settings, DesktopWindow* desktop) {
+    auto const player = std::make_shared<kore::MusicSFML>();
+    std::shared_ptr<kore::Music> music = player;
     music_init(music);
     kore::Demo demo(beat_seconds);
     init_demo(demo, music, beat_seconds);
     Stepper stepper(demo, beat_seconds);
-    Controls controls{demo, music, {}, {}};
+    Controls controls{demo, music, {}, {}, desktop};
     float fps = 0;
+    Timing timing(settings, *player);
     music_play(music, true);
-    clock.restart();
+    timing.Begin();
 
     while (window.isOpen()) {
-        controls.now = clock.getElapsedTime().asSeconds();
+        controls.now = timing.Read();
         sf::Event event;
         while (!controls.close && window.pollEvent(event)) handle_event(controls, event);
         if (controls.close) window.close();
         controls.view.Step();
-        stepper.Update(controls.pauses.ShowTime(controls.now), fps);
-        if (window.setActive(true)) stepper.Draw(controls.view); // a closed window has no context
+        float const show_time = controls.pauses.ShowTime(controls.now);
+        timing.Listen(show_time, controls.pauses.Paused());
+        stepper.Update(timing.PictureTime(show_time), fps);
+        if (window.setActive(true)) { // a closed window has no context
+            stepper.Draw(controls.view);
+            if (desktop) desktop->Frame();
+        }
         frame_counter(controls.now, fps);
+        timing.Wait();
         window.display();
+        timing.Shown();
         if (show_over(stepper.State().beat_count, demo)) break;
     }
     music->Pause();
+    if (fps_counter && settings.pace) timing.Report();
 }
 
 int main(int argc, char** argv) {
     if (auto const status = read_command_line(argc, argv)) return *status;
-    if (!window_possible()) return 1;
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
+        std::cerr << missing << std::endl;
+        return 1;
+    }
+    auto const settings = settings_from_environment();
+    if (!settings || !window_possible()) return 1;
+    auto const monitors = find_monitors();
+    if (settings->list_monitors) {
+        print_monitors(monitors);
+        return 0;
+    }
+    auto const monitor = choose_monitor(*settings, monitors);
+    if (!monitor) return 1;
+    see_to_full_screen(*settings);
     catch_stop_signals();
     end_quietly_when_display_is_lost();
-    enter_data_folder(HARDSILENCE_SHARE);
     effect::look = look_from_environment();
 
-    sf::ContextSettings const settings(video_depth, video_stencil, video_fsaa_level);
-    // Not a render window: that one makes OpenGL calls of its own in every frame.
-    sf::Window window(
-        sf::VideoMode(static_cast<unsigned int>(resolution_x), static_cast<unsigned int>(resolution_y), 32),
-        window_title, static_cast<sf::Uint32>(video_fullscreen), settings);
+    sf::Window window; // not a render window: that one makes OpenGL calls of its own in every frame
+    auto desktop = open_window(window, *settings, *monitor);
+    std::optional<AwakeScreen> awake;
+    if (desktop) {
+        awake.emplace();
+        tell_of_slow_drawing();
+    }
     init_gl();
     window.setVerticalSyncEnabled(vsync);
-    window.setFramerateLimit(frame_limit());
-    run_show(window);
+    window.setFramerateLimit(settings->pace ? 0 : frame_limit());
+    run_show(window, *settings, desktop ? &*desktop : nullptr);
     return 0;
 }

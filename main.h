@@ -6,6 +6,8 @@
 #include "runtime/beatclock.h"
 #include "runtime/commandline.h"
 #include "runtime/debugcamera.h"
+#include "runtime/desktopwindow.h"
+#include "runtime/settings.h"
 
 #include <SFML/Window/Event.hpp>
 #include <SFML/Window/Window.hpp>
@@ -31,11 +33,13 @@ struct Controls {
     std::shared_ptr<kore::Music>& music;
     PauseClock pauses;
     DebugCamera view;
-    bool close = false; ///< Escape: the window closes at once
-    float now = 0;      ///< clock reading of this frame, seconds
+    DesktopWindow* desktop = nullptr; ///< where the window behaves as the desktop's
+    bool close = false;               ///< Escape: the window closes at once
+    float now = 0;                    ///< clock reading of this frame, seconds
 };
 
-/// Acts on one event of the window. All keys but Escape are live in the debugging mode only.
+/// Acts on one event of the window. All keys but Escape are live in the debugging mode only; in a desktop window F11
+/// and Alt-Enter switch full screen on and off.
 void handle_event(Controls& controls, sf::Event const& event);
 
 /// Deliberate: only without vertical sync; with it, the screen sets the pace.
@@ -47,4 +51,5 @@ unsigned int frame_limit();
 bool show_over(int beat_count, kore::Demo const& demo);
 
 /// Plays the show in an open window until it ends.
-void run_show(sf::Window& window);
+/// @param desktop  how the window behaves on the desktop; nullptr for the exact one
+void run_show(sf::Window& window, Settings const& settings, DesktopWindow* desktop);

@@ -61,4 +61,6 @@ void MusicSFML::Cleanup() { visualizer.reset(); }
 
 float MusicSFML::Position() const { return playable ? stream->getPlayingOffset().asSeconds() : 0.0f; }
 
+bool MusicSFML::Playing() const { return playable && stream->getStatus() == sf::SoundSource::Playing; }
+
 } // namespace kore

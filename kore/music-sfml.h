@@ -38,6 +38,9 @@ public:
     /// Playing position, seconds; 0 while silent.
     float Position() const;
 
+    /// Whether it is heard: neither paused, nor at its end, nor silent.
+    bool Playing() const;
+
 private:
     /// @param rate  receives the file's sample rate, Hz
     bool Open(std::string const& file, unsigned int& rate);

@@ -8,6 +8,7 @@ unsigned long video_fullscreen = sf::Style::Fullscreen;
 bool vsync = true;
 int resolution_x = 1024;
 int resolution_y = 768;
+bool width_given = false;
 int fps_limit_value = 60;
 unsigned int video_depth = 24;
 unsigned int video_stencil = 2;
@@ -31,6 +32,7 @@ Command line parameters:
 )";
 
 void set_width(std::string const& value) {
+    width_given = true;
     resolution_x = my_atoi(value);
     resolution_y = static_cast<int>(static_cast<double>(resolution_x) / 1.3333333333333333);
     std::cout << "Using resolution " << resolution_x << "x" << resolution_y << std::endl;

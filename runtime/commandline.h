@@ -11,6 +11,7 @@ extern unsigned long video_fullscreen; ///< window style: 8 full screen, 4 a win
 extern bool vsync;
 extern int resolution_x; ///< pixels
 extern int resolution_y;
+extern bool width_given;              ///< the resolution is the viewer's and no default
 extern int fps_limit_value;           ///< frames per second, used without vertical sync only; 0 for no limit
 extern unsigned int video_depth;      ///< bits
 extern unsigned int video_stencil;    ///< bits

@@ -1,31 +1,39 @@
 #include "runtime/datafolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-bool holds_data(fs::path const& folder) {
-    std::error_code error;
-    return fs::is_directory(folder / "data", error);
-}
+constexpr char const* mark = "data/weknow.asc";
 
-bool enter(fs::path const& folder) {
-    if (folder.empty() || !holds_data(folder)) return false;
+std::vector<fs::path> places(std::string const& share) {
     std::error_code error;
-    fs::current_path(folder, error);
-    return !error;
+    fs::path const working = fs::current_path(error);
+    fs::path const beside = fs::read_symlink("/proc/self/exe", error).parent_path();
+    fs::path const above = beside.parent_path(); // the build folder lies inside the source tree
+    std::vector<fs::path> found;
+    for (fs::path const& place : {working, beside, above, above / "share" / "hardsilence", fs::path(share)}) {
+        if (!place.empty() && std::find(found.begin(), found.end(), place) == found.end()) found.push_back(place);
+    }
+    return found;
 }
 
 } // namespace
 
-bool enter_data_folder(std::string const& share) {
-    if (holds_data(".")) return true;
-    std::error_code error;
-    fs::path const beside = fs::read_symlink("/proc/self/exe", error).parent_path();
-    fs::path const above = beside.parent_path(); // the build folder lies inside the source tree
-    fs::path const installed = share;
-    return enter(beside) || enter(above) || enter(installed);
+std::string enter_data_folder(std::string const& share) {
+    std::string tried;
+    for (fs::path const& place : places(share)) {
+        std::error_code error;
+        if (fs::is_regular_file(place / mark, error)) {
+            fs::current_path(place, error);
+            if (!error) return "";
+        }
+        tried += (tried.empty() ? "" : ", ") + place.string();
+    }
+    return std::string("Cannot find the show's ") + mark + " in any of " + tried;
 }

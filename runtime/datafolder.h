@@ -2,9 +2,10 @@
 
 #include <string>
 
-/// Makes the folder that holds "data/" the working directory: the one that already is, else the program's own, else the
-/// installed share folder. Everything is then loaded as "data/..." and says so in its messages. Where there is none the
-/// working directory stays as it is.
+/// Makes the folder that holds the show's "data/" the working directory: the one that already is; else the program's
+/// own, the one above it, "../share/hardsilence" from it, or the installed share folder. Everything is then loaded as
+/// "data/..." and says so in its messages. The folder is known by data/weknow.asc, the first file that the show loads;
+/// another project's "data/" is passed over.
 /// @param share  installed share folder; "" for none
-/// @return false if no "data/" was found
-bool enter_data_folder(std::string const& share);
+/// @return "" if it was found; else a line that names the places tried, and the working directory stays as it is
+std::string enter_data_folder(std::string const& share);

@@ -10,8 +10,8 @@
 using FourBlinkers = std::array<std::shared_ptr<effect::Blinker>, 4>;
 
 /// Makes four blinkers, each with a strobe every four beats, a fifth of a beat after the previous one, and puts them on
-/// the timeline from the first beat. In the calm show only the last one sends anything: a strobe on the beat, and the end
-/// of its cut on the next.
+/// the timeline from the first beat. In the calm show only the last one sends anything: a strobe on the beat, and the
+/// end of its cut on the next.
 /// @param length  of the scene, beats
 /// @param beat    length of one beat, seconds
 FourBlinkers add_four_blinkers(kore::Scene& scene, int length, float beat);

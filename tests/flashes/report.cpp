@@ -14,10 +14,10 @@ constexpr float rate = 60; // frames per second
 
 constexpr char const* head = R"(# Flashes
 
-What the flash meter of `tests/flashes/` says about the show, full and calm, at 60 frames a second; its header states the
-definitions and their sources. A frame fails where the second before it holds more than three flashes, where the
-picture has been above two flashes a second for more than four of five seconds, or where regular stripes have stood for half a
-second. No frame of the calm show does, and none is above two flashes a second.
+What the flash meter of `tests/flashes/` says about the show, full and calm, at 60 frames a second; its header states
+the definitions and their sources. A frame fails where the second before it holds more than three flashes, where the
+picture has been above two flashes a second for more than four of five seconds, or where regular stripes have stood for
+half a second. No frame of the calm show does, and none is above two flashes a second.
 
 | scene | frames | full: failing | above two | most transitions | calm: failing | above two | most transitions |
 |---|--:|--:|--:|--:|--:|--:|--:|

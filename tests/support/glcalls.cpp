@@ -26,6 +26,7 @@ constexpr Word words[] = {
     {GL_PROJECTION,                  "PROJECTION"},
     {GL_TEXTURE_2D,                  "TEXTURE_2D"},
     {GL_DEPTH_TEST,                  "DEPTH_TEST"},
+    {GL_SCISSOR_TEST,                "SCISSOR_TEST"},
     {GL_BLEND,                       "BLEND"},
     {GL_CULL_FACE,                   "CULL_FACE"},
     {GL_COLOR_MATERIAL,              "COLOR_MATERIAL"},
@@ -190,6 +191,20 @@ void glViewport(GLint x, GLint y, GLsizei width, GLsizei height) {
     bool const now = note("Viewport", {static_cast<double>(x), static_cast<double>(y), static_cast<double>(width),
                                        static_cast<double>(height)});
     if (now) state_call("Viewport");
+}
+void glScissor(GLint x, GLint y, GLsizei width, GLsizei height) {
+    bool const now = note("Scissor", {static_cast<double>(x), static_cast<double>(y), static_cast<double>(width),
+                                      static_cast<double>(height)});
+    if (now) state_call("Scissor");
+}
+GLubyte const* glGetString(GLenum) { return nullptr; }
+void glPushAttrib(GLbitfield mask) {
+    std::string what = mask & GL_COLOR_BUFFER_BIT ? "COLOR" : "";
+    if (mask & GL_SCISSOR_BIT) what += what.empty() ? "SCISSOR" : "|SCISSOR";
+    if (note("PushAttrib", {}, what)) state_call("PushAttrib");
+}
+void glPopAttrib() {
+    if (note("PopAttrib")) state_call("PopAttrib");
 }
 
 void glBindTexture(GLenum target, GLuint texture) { note("BindTexture", {static_cast<double>(texture)}, word(target)); }

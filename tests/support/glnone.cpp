@@ -37,12 +37,17 @@ WEAK void glMatrixMode(GLenum) {}
 WEAK void glShadeModel(GLenum) {}
 WEAK void glLineWidth(GLfloat) {}
 WEAK void glViewport(GLint, GLint, GLsizei, GLsizei) {}
+WEAK void glScissor(GLint, GLint, GLsizei, GLsizei) {}
+WEAK void glPushAttrib(GLbitfield) {}
+WEAK void glPopAttrib() {}
 WEAK void glFrustum(GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble) {}
 WEAK void glBindTexture(GLenum, GLuint) {}
 WEAK void glTexParameterf(GLenum, GLenum, GLfloat) {}
 WEAK void glTexParameteri(GLenum, GLenum, GLint) {}
 WEAK void glTexImage2D(GLenum, GLint, GLint, GLsizei, GLsizei, GLint, GLenum, GLenum, void const*) {}
 WEAK GLint gluBuild2DMipmaps(GLenum, GLint, GLsizei, GLsizei, GLenum, GLenum, void const*) { return 0; }
+
+WEAK GLubyte const* glGetString(GLenum) { return nullptr; }
 
 WEAK GLuint glGenLists(GLsizei range) {
     static GLuint next = 1;

@@ -80,11 +80,20 @@ TEST(Window, AServerWithoutFullScreenModesGetsAWindow) {
     EXPECT_EQ(show.process.Wait(2s), 0);
 }
 
-TEST(Window, AFullScreenModeThatIsNotOfferedStillFillsTheScreen) {
+TEST(Window, AFullScreenModeThatIsNotOfferedGivesAWindow) {
     Show show({"-width", "320", "-nofsaa", "-mute"});
     ASSERT_TRUE(show.open) << show.process.Error();
-    EXPECT_EQ(show.screen.WindowWidth(), 800u);
-    auto const picture = show.screen.Look();
+    EXPECT_EQ(show.screen.WindowWidth(), 320u);
+    EXPECT_THAT(show.process.Error(),
+                HasSubstr("This screen cannot be switched to 320x240; the show plays in a window.\n"));
+    show.screen.Press("Escape");
+    EXPECT_EQ(show.process.Wait(2s), 0);
+}
+
+TEST(Window, AFullScreenModeThatIsOfferedFillsTheScreen) {
+    Show show({"-width", "800", "-nofsaa", "-mute"});
+    ASSERT_TRUE(show.open) << show.process.Error();
+    EXPECT_EQ(show.screen.WindowPlace(), (Area{0, 0, 800, 600}));
     // White up to the corners, at least between two strobes.
     bool filled = false;
     for (int i = 0; i < 20 && !filled; ++i) {
@@ -254,6 +263,53 @@ TEST(Window, TheFrameRateIsPrintedOnRequest) {
                                                               "0\\.[0-9]+ seconds = [0-9.]+ fps\n"));
     show.screen.Press("Escape");
     EXPECT_EQ(show.process.Wait(2s), 0);
+}
+
+TEST(Window, InTheFriendlyModeTheFramesAreCountedAtTheEnd) {
+    Show show({"-w", "-width", "160", "-fps", "-nofsaa"},
+              {"HARDSILENCE_DESKTOP=1", "HARDSILENCE_PACE=1", "HARDSILENCE_SOUND=1", "ALSOFT_DRIVERS=null"});
+    ASSERT_TRUE(show.open) << show.process.Error();
+    std::this_thread::sleep_for(4s);
+    show.screen.Press("Escape");
+    EXPECT_EQ(show.process.Wait(2s), 0);
+    EXPECT_THAT(
+        show.process.Output(),
+        testing::ContainsRegex("Hard Silence by Quillon 2012: [0-9]+ frame times in ms:  1% [0-9.]+  50% 16\\.[67]."
+                               "  95% [0-9.]+  99% [0-9.]+  longest [0-9.]+\n"
+                               "Hard Silence by Quillon 2012: picture and sound at most [0-9.]+ ms apart\n$"));
+    EXPECT_THAT(show.process.Error(), testing::Not(HasSubstr("-nofsaa")));
+}
+
+TEST(Window, InTheFriendlyModeASoftwareRendererIsToldOf) {
+    Show show({"-w", "-width", "160", "-mute"}, {"HARDSILENCE_DESKTOP=1", "LIBGL_ALWAYS_SOFTWARE=1"});
+    ASSERT_TRUE(show.open) << show.process.Error();
+    EXPECT_THAT(show.process.Error(), HasSubstr("No graphics card draws here; -nofsaa doubles the frame rate.\n"));
+    show.screen.Press("Escape");
+    EXPECT_EQ(show.process.Wait(2s), 0);
+}
+
+TEST(Window, TheExactProgramCountsNoFramesAtTheEndAndTellsOfNoRenderer) {
+    Show show({"-w", "-width", "160", "-mute", "-fps"}, {"LIBGL_ALWAYS_SOFTWARE=1"});
+    ASSERT_TRUE(show.open) << show.process.Error();
+    show.screen.Press("Escape");
+    EXPECT_EQ(show.process.Wait(2s), 0);
+    EXPECT_THAT(show.process.Output(), testing::Not(HasSubstr("frame times")));
+    EXPECT_THAT(show.process.Error(), testing::Not(HasSubstr("-nofsaa")));
+}
+
+TEST(Window, AnOffsetHoldsThePictureBack) {
+    for (bool const held : {true, false}) {
+        Show show(small(), {held ? "HARDSILENCE_OFFSET=2000" : "HARDSILENCE_OFFSET"});
+        ASSERT_TRUE(show.open) << show.process.Error();
+        bool white = true;
+        for (int i = 0; i < 20; ++i) {
+            std::this_thread::sleep_for(50ms);
+            white = white && whiteness(show.screen.Look()) == 1; // as it is until the first word comes
+        }
+        EXPECT_EQ(white, held);
+        show.screen.Press("Escape");
+        EXPECT_EQ(show.process.Wait(2s), 0);
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/area.h"
+#include "tests/support/temp.h"
 #include "tests/window/process.h"
 
 #include <cstdint>
@@ -17,13 +19,32 @@ public:
     /// @param options  further ones of the server
     explicit XScreen(std::vector<std::string> const& options = {}, std::string const& size = "800x600x24");
     ~XScreen();
+
+    /// A server that can be switched between video modes, as graphics cards can.
+    struct Switched {
+        std::string mode; ///< that the desktop has, for example "1280x720"; larger ones are offered too
+    };
+    explicit XScreen(Switched const& start);
+
+    /// Xwayland under a Wayland compositor without a screen.
+    struct Wayland {
+        int width; ///< pixels
+        int height;
+    };
+    explicit XScreen(Wayland const& desktop);
     XScreen(XScreen const&) = delete;
     XScreen& operator=(XScreen const&) = delete;
 
     /// As DISPLAY takes it.
     std::string const& Name() const { return name; }
 
-    /// Waits for the show's window and gives it the keyboard.
+    /// Starts a window manager, and waits until it is there.
+    void Manage();
+
+    /// Runs an xrandr command and waits for its end.
+    void Randr(std::vector<std::string> const& arguments) const;
+
+    /// Waits for the show's window, framed or not, and gives it the keyboard.
     /// @return false if there is none after ten seconds
     bool FindShow();
 
@@ -53,11 +74,32 @@ public:
     };
     Picture Look() const;
 
+    /// All of the screen; under Wayland nothing, for no client sees others there.
+    Picture LookAtAll() const;
+
+    /// The window's place on the screen, without its frame.
+    Area WindowPlace() const;
+
+    /// Sets after how long without input the screen saver comes.
+    void SetSaver(int seconds) const;
+
+    /// Whether the screen saver has come.
+    bool Saved() const;
+
+    /// Whether the pointer is shown as one that can be seen.
+    bool PointerIsSeen() const;
+
     /// Ends the server, as when the screen is lost.
     void Kill();
 
 private:
+    void Start(std::vector<std::string> const& command);
+    void Connect();
+    Picture Read(unsigned long drawable, int width, int height) const;
+
+    support::TempFolder folder; ///< for what the server reads
     std::unique_ptr<Process> server;
+    std::unique_ptr<Process> manager;
     std::string name;
     _XDisplay* display = nullptr;
     unsigned long window = 0;

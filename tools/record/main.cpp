@@ -150,6 +150,6 @@ int main(int argc, char** argv) {
     // The caller's paths are relative to the caller's folder, not to that of the data.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
-    if (!enter_data_folder(HARDSILENCE_SHARE)) return complain("cannot find the folder data/");
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
     return record(options);
 }
