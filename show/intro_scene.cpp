@@ -52,6 +52,15 @@ std::shared_ptr<effect::ShowModel> make_word(Word const& word, int k, float beat
     return model;
 }
 
+// A strobe a quarter beat after each of the first eight beats.
+std::shared_ptr<effect::Blinker> make_word_blinker(float beat) {
+    auto blinker = std::make_shared<effect::Blinker>();
+    for (unsigned int i = 0; i <= 7; ++i) {
+        add_blink(*blinker, beat * static_cast<float>(i) + 0.25f * beat, Blink::Strobe, 6, beat);
+    }
+    return blinker;
+}
+
 // Half a unit in five beats, two in a quarter of a beat as the glass breaks, one more until the end.
 std::shared_ptr<kore::RoutePositioner> make_tag_route(float beat) {
     using Route = kore::RoutePositioner;
@@ -75,12 +84,7 @@ std::shared_ptr<kore::Scene> intro_scene(float const& beat) {
 
     auto glass_blinker = std::make_shared<effect::Blinker>();
     add_blinks(*glass_blinker, glass_blinks, beat);
-
-    // A strobe a quarter beat after each of the first eight beats.
-    auto word_blinker = std::make_shared<effect::Blinker>();
-    for (unsigned int i = 0; i <= 7; ++i) {
-        add_blink(*word_blinker, beat * static_cast<float>(i) + 0.25f * beat, Blink::Strobe, 6, beat);
-    }
+    auto word_blinker = make_word_blinker(beat);
 
     // clang-format off
     Cue const blinkers[] = {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 
 std::shared_ptr<kore::AscModel> models;
 
@@ -26,7 +27,8 @@ constexpr SceneEntry scenes[] = {
 std::span<SceneEntry const> running_order() { return scenes; }
 
 char const* title_of(SceneFunction make) {
-    auto const* const entry = std::ranges::find(scenes, make, &SceneEntry::make);
+    auto const* const entry =
+        std::find_if(std::begin(scenes), std::end(scenes), [&](SceneEntry const& scene) { return scene.make == make; });
     assert(entry != std::end(scenes));
     return entry->title;
 }

@@ -60,7 +60,7 @@ seed 2012 ; every render draws the same numbers
 #include "score/gungirl.orc"
 #include "score/swapper.orc"
 #include "score/credits.orc"
-#include "score/tunnel.orc"
+#include "score/tunnelgate.orc"
 #include "score/plasma.orc"
 #include "score/fountain.orc"
 #include "score/greets.orc"
@@ -70,15 +70,15 @@ seed 2012 ; every render draws the same numbers
 t 0 132
 
 ; The show: each section schedules all its notes before the first sample is made.
-;                first beat   beats
-i "Intro"    0 0      0         16
-i "GunGirl"  0 0     16         48
-i "Swapper"  0 0     64         96
-i "Credits"  0 0    160         24
-i "Tunnel"   0 0    184         72
-i "Plasma"   0 0    256         32
-i "Fountain" 0 0    288         64
-i "Greets"   0 0    352         32
+;                 first beat  beats
+i "Intro"      0 0      0         16
+i "GunGirl"    0 0     16         48
+i "Swapper"    0 0     64         96
+i "Credits"    0 0    160         24
+i "Tunnelgate" 0 0    184         72
+i "Plasma"     0 0    256         32
+i "Fountain"   0 0    288         64
+i "Greets"     0 0    352         32
 
 ; 384 beats and 8.75 of tail, with the limiter's look-ahead
 i "Space"    0 392.75

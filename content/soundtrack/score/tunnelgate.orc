@@ -7,7 +7,7 @@ gSTunnelLine  = {{ g2! g2 g3 d3!  g2 g3_ eb3 g2   d3! g2 g3 bb2!  g2 g2_ c3 g3  
 gSTunnelAnvil = "g4! . . . d4 . . . g4! . . . bb4 . . . | g4! . . . d5! . d4 . g4! . . d4 bb4 . d5! d5"
 gSTunnelBass  = ". . g1 g1 . . g1 g1 . . g1 g1 . . g1 bb1 | . . g1 . . . g1 . . . g1 g2~ . . f1 g1"
 
-instr Tunnel
+instr Tunnelgate
   section p4, 0
 
   at 0, "Slam", 4, 1.25, 0, 0.6
