@@ -19,6 +19,7 @@
 #include <exception>
 #include <iostream>
 #include <optional>
+#include <unistd.h>
 #include <utility>
 
 bool quit = false;
@@ -28,6 +29,7 @@ namespace {
 constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
 constexpr int last_beat = 9998;        // safety stop
+bool sound_hangs = false;              // at the end of the show
 
 struct HeldKey {
     sf::Keyboard::Key key;
@@ -204,6 +206,7 @@ void run_show(sf::Window& window, Settings const& settings, DesktopWindow* deskt
     deadline::set_for_the_end();
     music->Pause();
     if (fps_counter && settings.pace) timing.Report();
+    sound_hangs = player->Hangs();
 }
 
 namespace {
@@ -253,7 +256,9 @@ int main(int argc, char** argv) {
     DroppingStreams streams;
     if (auto const status = read_command_line(argc, argv)) return *status;
     try {
-        return play(streams);
+        int const status = play(streams);
+        if (sound_hangs) _exit(status); // whoever waits for that waits long
+        return status;
     } catch (std::exception const& error) {
         std::cerr << "The computer lacks something that the show needs: " << error.what() << std::endl;
         return 1;
