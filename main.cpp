@@ -9,6 +9,7 @@
 #include "runtime/frame.h"
 #include "runtime/modekeeper.h"
 #include "runtime/opening.h"
+#include "runtime/resources.h"
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
 #include "runtime/streams.h"
@@ -217,7 +218,7 @@ int play(DroppingStreams& streams) {
         return 1;
     }
     auto const settings = settings_from_environment();
-    if (!settings || !window_possible()) return 1;
+    if (!settings || !enough_resources() || !window_possible()) return 1;
     auto const monitors = find_monitors();
     if (settings->list_monitors) {
         print_monitors(monitors);

@@ -69,8 +69,8 @@ bool may_be_soundtrack(std::string const& path) {
     int const file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0) return false;
     struct stat info {};
-    bool const fits = fstat(file, &info) == 0 && S_ISREG(info.st_mode) &&
-                      static_cast<std::size_t>(info.st_size) <= most_bytes;
+    bool const fits =
+        fstat(file, &info) == 0 && S_ISREG(info.st_mode) && static_cast<std::size_t>(info.st_size) <= most_bytes;
     std::string head(head_bytes, '\0');
     ssize_t const got = fits ? read(file, head.data(), head.size()) : -1;
     close(file);

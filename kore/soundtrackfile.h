@@ -10,9 +10,9 @@ namespace kore {
 namespace soundtracklimits {
 constexpr std::size_t most_bytes = 64U << 20U; ///< of the file: five minutes of stereo without compression
 constexpr unsigned int most_channels = 8;
-constexpr unsigned int least_rate = 4000;   ///< Hz
-constexpr unsigned int most_rate = 192000;  ///< Hz
-constexpr std::size_t head_bytes = 65536;   ///< in which the header lies
+constexpr unsigned int least_rate = 4000;  ///< Hz
+constexpr unsigned int most_rate = 192000; ///< Hz
+constexpr std::size_t head_bytes = 65536;  ///< in which the header lies
 } // namespace soundtracklimits
 
 /// Whether the first bytes of a file are the header of an Ogg Vorbis, FLAC or RIFF WAVE file whose channels and rate
