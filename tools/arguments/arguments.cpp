@@ -11,12 +11,13 @@ void set_up(CLI::App& app) {
     app.get_formatter()->label("REQUIRED", "(required)");
 }
 
-void add_value(CLI::App& app, std::string const& name, std::string const& type,
-               std::function<bool(std::string const&)> read, std::string const& wanted, std::string const& help) {
+CLI::Option* add_value(CLI::App& app, std::string const& name, std::string const& type,
+                       std::function<bool(std::string const&)> read, std::string const& wanted,
+                       std::string const& help) {
     auto const take = [=](std::string const& value) {
         if (!read(value)) throw CLI::ValidationError(name, "'" + value + "' is not " + wanted);
     };
-    app.add_option_function<std::string>(name, take, help)->type_name(type);
+    return app.add_option_function<std::string>(name, take, help)->type_name(type);
 }
 
 std::optional<int> read_arguments(CLI::App& app, int argc, char const* const* argv) {

@@ -280,11 +280,4 @@ bool read_text(std::string const& path, std::string& text) {
     return in.is_open() && !in.bad();
 }
 
-bool write_text(std::string const& path, std::string const& text) {
-    std::ofstream out(path, std::ios::binary);
-    out << text;
-    out.close();
-    return out.good();
-}
-
 } // namespace asc

@@ -40,7 +40,5 @@ double rounded(double coordinate);
 
 /// Reads a whole file into `text`. Returns false when it cannot be read (a folder, missing, no permission).
 bool read_text(std::string const& path, std::string& text);
-/// Writes `text` to the file at `path`, replacing what was there. Returns false when that fails.
-bool write_text(std::string const& path, std::string const& text);
 
 } // namespace asc

@@ -5,6 +5,8 @@
 #include "tools/asc/creases.h"
 #include "tools/asc/import.h"
 #include "tools/asc/refine.h"
+#include "tools/files/newfile.h"
+#include "tools/files/png.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -19,6 +21,10 @@ int failed(std::string const& text) {
     std::cerr << "asc: " << text << '\n';
     return 1;
 }
+
+/// @param error  what a writer returned
+/// @return the exit status
+int written(std::string const& error) { return error.empty() ? 0 : failed(error); }
 
 struct Input {
     std::string name, path;
@@ -40,7 +46,7 @@ int save_objects(std::vector<Object> const& objects, std::string const& out) {
     if (auto const faults = faults_of(parse(text), false); !faults.empty()) {
         return failed(out + " would be faulty: " + faults.front().text);
     }
-    return write_text(out, text) ? 0 : failed("cannot write " + out);
+    return written(write_file(out, text));
 }
 
 /// Adds the objects of a mesh file.
@@ -73,7 +79,7 @@ bool load_all(std::vector<std::string> const& inputs, std::vector<Object>& objec
 
 int save_picture(std::optional<sf::Image> const& picture, std::string const& out) {
     if (!picture) return failed("OpenGL cannot draw such a picture off-screen");
-    return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
+    return written(write_png(out, *picture));
 }
 
 /// Turns an object as read into one for the show.

@@ -2,8 +2,9 @@
 
 #include "tools/arguments/arguments.h"
 #include "tools/asc/commands.h"
+#include "tools/files/png.h"
+#include "tools/files/streams.h"
 
-#include <SFML/System/Err.hpp>
 #include <iostream>
 #include <limits>
 #include <sstream>
@@ -43,6 +44,14 @@ void add_vector(CLI::App& command, std::string const& name, std::optional<asc::V
     add_value(
         command, name, "X,Y,Z", [&](std::string const& v) { return read_vector(v, vector.emplace()); },
         "a number or three between commas", help);
+}
+
+CLI::Option* add_picture(CLI::App& command, std::string& path, std::string const& help) {
+    auto const read = [&](std::string const& v) {
+        path = v;
+        return is_png_name(v);
+    };
+    return add_value(command, "-o", "OUT.png", read, "a path that ends in .png", help);
 }
 
 void add_convert(CLI::App& app, Tool& tool) {
@@ -89,7 +98,7 @@ void add_preview(CLI::App& app, Tool& tool) {
     asc::PreviewOptions& options = tool.preview;
     asc::View& view = options.view;
     command.add_option("FILE", options.file, "A mesh file")->type_name("")->required();
-    command.add_option("-o", options.out, "The picture (the file's name with .png)")->type_name("OUT.png");
+    add_picture(command, options.out, "The picture (the file's name with .png)");
     command.add_option("--object", options.object, "Only this object")->type_name("NAME");
     add_vector(command, "--camera", options.camera, "Where the camera stands");
     add_vector(command, "--look", view.look, "Where it looks (0,0,0)");
@@ -107,7 +116,7 @@ void add_sheet(CLI::App& app, Tool& tool) {
     CLI::App& command = *app.add_subcommand("sheet", "Draw a contact sheet of all objects, solid and with their lines");
     asc::SheetOptions& options = tool.sheet;
     command.add_option("FILE", options.files, "Mesh files")->type_name("")->required();
-    command.add_option("-o", options.out, "The picture")->type_name("OUT.png")->required();
+    add_picture(command, options.out, "The picture")->required();
     auto const columns = [&](std::string const& v) { return read_number(v, 1u, 100u, options.columns); };
     add_value(command, "--columns", "N", columns, "a number from 1 to 100", "Objects per row (5)");
     auto const panel = [&](std::string const& v) { return read_number(v, 20u, 2000u, options.panel); };
@@ -115,10 +124,7 @@ void add_sheet(CLI::App& app, Tool& tool) {
     command.callback([&] { tool.status = asc::sheet(options); });
 }
 
-} // namespace
-
-int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
-    sf::err().rdbuf(nullptr);     // its messages about files would repeat ours
+int run(int argc, char** argv) {
     CLI::App app("Makes the show's meshes from model files, checks them and draws them.", "asc");
     set_up(app);
     app.require_subcommand(0, 1);
@@ -127,4 +133,11 @@ int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options 
     if (auto const status = read_arguments(app, argc, argv)) return *status;
     if (!tool.status) std::cerr << app.help("", CLI::AppFormatMode::All);
     return tool.status.value_or(1);
+}
+
+} // namespace
+
+int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
+    prepare_streams();
+    return finish_output("asc", run(argc, argv));
 }

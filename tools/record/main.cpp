@@ -3,13 +3,14 @@
 #include "runtime/frame.h"
 #include "runtime/playback.h"
 #include "show/show.h"
+#include "tools/files/png.h"
+#include "tools/files/streams.h"
 #include "tools/offscreen/framebuffer.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
 #include "tools/record/sheet.h"
 #include "tools/record/timetable.h"
 
-#include <SFML/System/Err.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <iomanip>
@@ -74,8 +75,8 @@ bool make_folder(fs::path const& folder) {
 }
 
 bool save(sf::Image const& image, fs::path const& path) {
-    if (!image.saveToFile(path.string())) {
-        complain("cannot write " + path.string());
+    if (std::string const error = write_png(path.string(), image); !error.empty()) {
+        complain(error);
         return false;
     }
     std::cout << path.string() << std::endl;
@@ -140,16 +141,20 @@ int record(RecordOptions options) {
     return take(shots, options, playback, framebuffer) ? 0 : 1;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
-    sf::err().rdbuf(nullptr); // its messages about files would repeat ours
     effect::look = {.standard_wire = options.wire, .calm = options.calm};
     // The caller's paths are relative to the caller's folder, not to that of the data.
     if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
     if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
     return record(options);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    prepare_streams();
+    return finish_output("hardsilence-record", run(argc, argv));
 }

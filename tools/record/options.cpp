@@ -1,6 +1,7 @@
 #include "tools/record/options.h"
 
 #include "tools/arguments/arguments.h"
+#include "tools/files/png.h"
 
 #include <algorithm>
 #include <iostream>
@@ -39,7 +40,8 @@ void add_options(CLI::App& app, RecordOptions& options) {
     app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
     add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
               "Write each picture to DIR/beat_012.400.png; DIR is created if necessary");
-    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet); }, "a path",
+    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet) && is_png_name(v); },
+              "a path that ends in .png",
               "Write a contact sheet of the pictures");
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
               "a scene's name; --list shows them",

@@ -7,6 +7,7 @@
 #include <SFML/Graphics/Image.hpp>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 using support::Outcome;
@@ -35,8 +36,9 @@ Tally tally_of(sf::Image const& image, sf::IntRect const& part) {
 /// Each test works in an empty folder of its own.
 class AscCommand : public testing::Test {
 protected:
-    Outcome call(std::string const& arguments) const {
-        return support::run_shell("'" ASC_PROGRAM "' " + arguments, {.folder = folder.Path("")});
+    /// @param before  of the shell, in front of the program
+    Outcome call(std::string const& arguments, std::string const& before = "") const {
+        return support::run_shell(before + "'" ASC_PROGRAM "' " + arguments, {.folder = folder.Path("")});
     }
     void put(std::string const& name, std::string const& text) const { folder.Write(name, text); }
     std::string get(std::string const& name) const { return support::read_all(folder.Path(name)); }
@@ -218,7 +220,7 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"convert . -o a.asc", ".: no such file"},
         {"convert line.obj -o a.asc", "line.obj: nothing is left of object 'line'"},
         {"convert points.obj -o a.asc", "points.obj: it holds no triangles"},
-        {"convert a.off -o none/a.asc", "cannot write none/a.asc"},
+        {"convert a.off -o none/a.asc", "cannot write none/a.asc: No such file or directory"},
         {"convert 'a\"b=a.off' -o a.asc", "'a\"b' cannot be the name of an object"},
         {"convert x=a.off x=a.off -o a.asc", "a.asc would be faulty: the name 'x' stands at line 1 too"},
         {"check", "FILE is required"},
@@ -229,9 +231,11 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"preview a.asc b.asc", "The following argument was not expected: b.asc"},
         {"preview a.asc --object b", "a.asc holds no object 'b'"},
         {"preview", "FILE is required"},
-        {"sheet a.asc -o none/a.png", "cannot write none/a.png"},
+        {"sheet a.asc -o none/a.png", "cannot write none/a.png: No such file or directory"},
         {"sheet a.asc --panel 2000 --columns 1000 -o a.png", "--columns: '1000' is not a number from 1 to 100"},
         {"sheet -o a.png", "FILE is required"},
+        {"sheet a.asc -o a.jpg", "-o: 'a.jpg' is not a path that ends in .png"},
+        {"sheet a.asc", "-o is required"},
     };
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(arguments);
@@ -244,6 +248,37 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
     EXPECT_EQ(junk.status, 1);
     EXPECT_TRUE(junk.error.starts_with("asc: junk.off: "));
     EXPECT_EQ(std::count(junk.error.begin(), junk.error.end(), '\n'), 1);
+}
+
+TEST_F(AscCommand, KeepsAnOldFileWhereANewOneDoesNotFit) {
+    put("box.obj", box_obj);
+    ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);
+    put("old.asc", "old");
+    put("old.png", "old");
+    std::pair<char const*, char const*> const cases[] = {
+        {"convert box.obj -o old.asc", "old.asc"},
+        {"join box.asc -o old.asc", "old.asc"},
+        {"sheet box.asc -o old.png", "old.png"},
+        {"preview box.asc -o old.png", "old.png"},
+        {"preview box.asc --camera 0,0,5 -o old.png", "old.png"},
+    };
+    for (auto const& [arguments, file] : cases) {
+        Outcome const run = call(arguments, "ulimit -f 1; ");
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.error, "asc: cannot write " + std::string(file) + ": File too large\n");
+        EXPECT_EQ(get(file), "old");
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path("")), {}), 4);
+}
+
+TEST_F(AscCommand, FailsWhereItsOutputDoes) {
+    put("box.obj", box_obj);
+    ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);
+    for (char const* const arguments : {"--help", "--version", "check box.asc"}) {
+        Outcome const run = call(arguments + std::string(" > /dev/full"));
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.error.starts_with("asc: cannot write to standard output"));
+    }
 }
 
 TEST_F(AscCommand, PrintsItsHelpAndItsVersion) {

@@ -33,8 +33,10 @@ std::string padded(double beats) {
 /// Runs the program in an empty folder of its own.
 class Recorder : public testing::Test {
 protected:
-    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {}) const {
-        return support::run_shell("'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
+    /// @param before  of the shell, in front of the program
+    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {},
+                   std::string const& before = "") const {
+        return support::run_shell(before + "'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
                                   {.folder = folder.Path(""), .environment = environment});
     }
 
@@ -179,9 +181,9 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
          "beat " + length + " lies past the last frame of " + first.title + ", which has " + length + " beats"},
         {"--beats 1 --out file", "cannot make the folder " + In("file") + ": Not a directory"},
         {"--beats 1 --out file/deeper", "cannot make the folder " + In("file/deeper") + ": Not a directory"},
-        {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png"},
-        {"--beats 1 --size 16x12 --sheet .", "cannot write " + In("")},
-        {"--beats 1 --size 16x12 --sheet a.unknown", "cannot write " + In("a.unknown")},
+        {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png: No such file or directory"},
+        {"--beats 1 --sheet .", "--sheet: '.' is not a path that ends in .png"},
+        {"--beats 1 --sheet a.jpg", "--sheet: 'a.jpg' is not a path that ends in .png"},
     };
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(arguments);
@@ -192,6 +194,30 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     }
     for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
         EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
+    }
+}
+
+TEST_F(Recorder, NeverLeavesHalfAPictureNorTakesAnOldOne) {
+    folder.Write("beat_001.000.png", "old");
+    folder.Write("sheet.png", "old");
+    for (char const* const where : {"--out .", "--sheet sheet.png"}) {
+        Outcome const outcome = Record("--beats 1 --size 256x192 " + std::string(where), {}, "ulimit -f 1; ");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(
+            outcome.error,
+            testing::MatchesRegex("hardsilence-record: cannot write .*/(beat_001.000|sheet).png: File too large\n"));
+        EXPECT_EQ(outcome.output, "") << "no path of a file that is not there";
+    }
+    EXPECT_TRUE(read_all(In("beat_001.000.png")) + read_all(In("sheet.png")) == "oldold");
+    EXPECT_EQ(std::distance(fs::directory_iterator(In("")), {}), 2);
+}
+
+TEST_F(Recorder, FailsWhereItsOutputDoes) {
+    for (char const* const arguments : {"--help", "--version", "--list", "--beats 1 --size 16x12 --out ."}) {
+        Outcome const outcome = Record(arguments + std::string(" > /dev/full"));
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_THAT(outcome.error, testing::StartsWith("hardsilence-record: cannot write to standard output"));
+        EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1);
     }
 }
 
