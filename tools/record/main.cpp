@@ -2,6 +2,7 @@
 #include "runtime/datafolder.h"
 #include "runtime/frame.h"
 #include "runtime/playback.h"
+#include "show/datacheck.h"
 #include "show/show.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
@@ -135,6 +136,7 @@ int record(RecordOptions options) {
                         " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
                         std::to_string(Framebuffer::MostSamples()) + " samples");
     }
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);
