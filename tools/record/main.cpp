@@ -2,6 +2,7 @@
 #include "runtime/datafolder.h"
 #include "runtime/frame.h"
 #include "runtime/playback.h"
+#include "show/datacheck.h"
 #include "show/show.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
@@ -16,6 +17,7 @@
 #include <iomanip>
 #include <iostream>
 #include <system_error>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -74,12 +76,21 @@ bool make_folder(fs::path const& folder) {
     return !error;
 }
 
+/// The caller's paths are relative to the caller's folder, not to that of the data.
+bool make_absolute(std::string& path) {
+    if (path.empty()) return true;
+    std::error_code error;
+    path = fs::absolute(path, error).lexically_normal().string();
+    if (error) complain("cannot tell the working folder: " + error.message());
+    return !error;
+}
+
 bool save(sf::Image const& image, fs::path const& path) {
     if (std::string const error = write_png(path.string(), image); !error.empty()) {
         complain(error);
         return false;
     }
-    std::cout << path.string() << std::endl;
+    std::cout << (isatty(STDOUT_FILENO) ? printable(path.string()) : path.string()) << std::endl;
     return true;
 }
 
@@ -125,6 +136,7 @@ int record(RecordOptions options) {
                         " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
                         std::to_string(Framebuffer::MostSamples()) + " samples");
     }
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);
@@ -136,6 +148,10 @@ int record(RecordOptions options) {
     if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
+    if (!options.sheet.empty()) {
+        PictureSize const size = sheet_size(shots.size(), options.columns, {options.width, options.height});
+        if (std::string const error = refuse_size("the sheet", size); !error.empty()) return complain(error);
+    }
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
     Playback playback(demo, recorded_rate);
     return take(shots, options, playback, framebuffer) ? 0 : 1;
@@ -145,9 +161,7 @@ int run(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     effect::look = {.standard_wire = options.wire, .calm = options.calm};
-    // The caller's paths are relative to the caller's folder, not to that of the data.
-    if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
-    if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
+    if (!make_absolute(options.folder) || !make_absolute(options.sheet)) return 1;
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
     return record(options);
 }
@@ -155,6 +169,5 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    prepare_streams();
-    return finish_output("hardsilence-record", run(argc, argv));
+    return run_tool(recorder_name, [=] { return run(argc, argv); });
 }
