@@ -1,6 +1,7 @@
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"
+#include "runtime/playback.h"
 
 #include <algorithm>
 #include <charconv>
@@ -10,10 +11,6 @@
 
 namespace {
 
-// frames : millibeats = 60 x rate : 1000 x tempo
-constexpr long long frames_part = 60LL * recorded_rate;
-constexpr long long beats_part = 1LL * one_beat * beats_per_minute;
-
 constexpr std::size_t most_moments = 10000;
 
 std::vector<std::string> split(std::string const& text, char separator) {
@@ -21,14 +18,6 @@ std::vector<std::string> split(std::string const& text, char separator) {
     std::istringstream stream(text + separator);
     for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
     return parts;
-}
-
-std::optional<Millibeats> parse_beat(std::string const& text) {
-    char const* const end = text.data() + text.size();
-    double beats = 0;
-    auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
-    if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
-    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is slightly below 3001
 }
 
 /// @return false if there are too many already
@@ -49,26 +38,40 @@ bool add_range(std::vector<Millibeats>& moments, std::vector<std::string> const&
     return true;
 }
 
-/// The frames on which the show's clock counts its beats.
-std::vector<int> frames_of_whole_beats() {
-    BeatClock clock(beat_seconds);
-    kore::StateData state;
-    std::vector<int> frames;
-    for (int frame = 0; state.beat_count < most_beats; ++frame) {
-        state.time = static_cast<float>(frame) / static_cast<float>(recorded_rate);
-        state.new_beat = false;
-        clock.Count(state);
-        if (state.new_beat) frames.push_back(frame);
-    }
-    return frames;
-}
-
 } // namespace
 
-int frame_at(Millibeats at) {
-    static std::vector<int> const counted = frames_of_whole_beats();
+FrameGrid::FrameGrid(FrameRate rate) : my_rate(rate) {
+    BeatClock clock(beat_seconds);
+    kore::StateData state;
+    for (int frame = 0; state.beat_count < most_beats; ++frame) {
+        state.time = frame_time(frame, rate.PerSecond());
+        state.new_beat = false;
+        clock.Count(state);
+        if (state.new_beat) counted.push_back(frame);
+    }
+}
+
+int FrameGrid::FrameAt(Millibeats at) const {
+    // frames : millibeats = 60 x frames of the rate : 1000 x tempo x seconds of the rate
+    long long const frames_part = 60LL * my_rate.frames;
+    long long const beats_part = 1LL * one_beat * beats_per_minute * my_rate.seconds;
     auto const nominal = static_cast<int>((frames_part * at + beats_part - 1) / beats_part); // rounded up
-    return std::max(nominal, counted[static_cast<std::size_t>(at / one_beat)]);
+    auto const beat = static_cast<std::size_t>(at / one_beat);
+    if (at % one_beat == 0) return counted[beat]; // at some rates the clock is a frame early
+    return std::clamp(nominal, counted[beat], counted[beat + 1]);
+}
+
+int frame_at(Millibeats at) {
+    static FrameGrid const grid({recorded_rate, 1});
+    return grid.FrameAt(at);
+}
+
+std::optional<Millibeats> parse_beat(std::string const& text) {
+    char const* const end = text.data() + text.size();
+    double beats = 0;
+    auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
+    if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
+    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is slightly below 3001
 }
 
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text) {

@@ -5,6 +5,7 @@
 #include "show/show.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
+#include "tools/film/film.h"
 #include "tools/offscreen/framebuffer.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
@@ -146,10 +147,11 @@ int run(int argc, char** argv) {
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     effect::look = {.standard_wire = options.wire, .calm = options.calm};
     // The caller's paths are relative to the caller's folder, not to that of the data.
-    if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
-    if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
+    for (std::string* const path : {&options.folder, &options.sheet, &options.film.file}) {
+        if (!path->empty()) *path = fs::absolute(*path).lexically_normal().string();
+    }
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
-    return record(options);
+    return options.film.Wanted() ? make_film(options) : record(options);
 }
 
 } // namespace
