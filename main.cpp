@@ -11,6 +11,7 @@
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
 #include "runtime/timing.h"
+#include "show/datacheck.h"
 #include "show/show.h"
 
 #include <GL/gl.h>
@@ -202,6 +203,17 @@ void run_show(sf::Window& window, Settings const& settings, DesktopWindow* deskt
     if (fps_counter && settings.pace) timing.Report();
 }
 
+namespace {
+
+/// @return false, after a line, where the data is not what the show needs
+bool data_is_good() {
+    std::string const wrong = check_meshes();
+    if (!wrong.empty()) std::cerr << wrong << std::endl;
+    return wrong.empty();
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     if (auto const status = read_command_line(argc, argv)) return *status;
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
@@ -209,7 +221,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     auto const settings = settings_from_environment();
-    if (!settings || !window_possible()) return 1;
+    if (!settings || (settings->check && !data_is_good()) || !window_possible()) return 1;
     auto const monitors = find_monitors();
     if (settings->list_monitors) {
         print_monitors(monitors);

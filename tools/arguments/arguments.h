@@ -13,7 +13,7 @@ void set_up(CLI::App& app);
 /// Adds an option with a value, which is passed to its reader unchanged, even if it is "".
 /// @param type    name of the value in the help text, for example "WxH"
 /// @param read    returns false if the value is not valid
-/// @param wanted  what a valid value is, for the error line: "--size: 'x' is not <wanted>"
+/// @param wanted  what a valid value is, for the error line: "--size: 'x' is not <wanted>", a long value shortened
 CLI::Option* add_value(CLI::App& app, std::string const& name, std::string const& type,
                        std::function<bool(std::string const&)> read, std::string const& wanted,
                        std::string const& help);

@@ -7,6 +7,7 @@
 #include "tools/asc/refine.h"
 #include "tools/files/newfile.h"
 #include "tools/files/png.h"
+#include "tools/files/streams.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,10 +18,9 @@ namespace asc {
 namespace {
 
 /// @return 1, the exit status after a fault
-int failed(std::string const& text) {
-    std::cerr << "asc: " << text << '\n';
-    return 1;
-}
+int failed(std::string const& text) { return complain("asc", text); }
+
+void print(std::string const& line) { std::cout << printable(line) << '\n'; }
 
 /// @param error  what a writer returned
 /// @return the exit status
@@ -82,6 +82,11 @@ int save_picture(std::optional<sf::Image> const& picture, std::string const& out
     return written(write_png(out, *picture));
 }
 
+int save_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel, std::string const& out) {
+    std::string const error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    return error.empty() ? save_picture(draw_sheet(objects, columns, panel), out) : failed(error);
+}
+
 /// Turns an object as read into one for the show.
 /// @return "", or what is wrong
 std::string make_ready(Object& object, ConvertOptions const& options) {
@@ -127,9 +132,9 @@ int check(CheckOptions const& options) {
             continue;
         }
         ReadFile const file = parse(text);
-        for (ReadObject const& read : file.objects) std::cout << path << ": " << summary(read.object) << '\n';
+        for (ReadObject const& read : file.objects) print(path + ": " + summary(read.object));
         for (Fault const& fault : faults_of(file, options.shatter)) {
-            std::cout << path << ':' << fault.line << ": " << fault.text << '\n';
+            print(path + ":" + std::to_string(fault.line) + ": " + fault.text);
             status = 1;
         }
     }
@@ -145,7 +150,7 @@ int preview(PreviewOptions const& options) {
     }
     std::string out = options.out;
     if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
-    if (!options.camera) return save_picture(draw_sheet(objects, 2, 380), out);
+    if (!options.camera) return save_sheet(objects, 2, 380, out);
     View view = options.view;
     view.camera = *options.camera;
     return save_picture(draw_view(objects, view, 1024, 768), out);
@@ -154,7 +159,7 @@ int preview(PreviewOptions const& options) {
 int sheet(SheetOptions const& options) {
     std::vector<Object> objects;
     if (!load_all(options.files, objects)) return 1;
-    return save_picture(draw_sheet(objects, options.columns, options.panel), options.out);
+    return save_sheet(objects, options.columns, options.panel, options.out);
 }
 
 } // namespace asc

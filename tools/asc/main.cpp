@@ -137,7 +137,6 @@ int run(int argc, char** argv) {
 
 } // namespace
 
-int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape): options declared wrongly would throw
-    prepare_streams();
-    return finish_output("asc", run(argc, argv));
+int main(int argc, char** argv) {
+    return run_tool("asc", [=] { return run(argc, argv); });
 }

@@ -21,6 +21,10 @@ Area PictureShape::Place() const {
     return stretch ? all : fitted(all);
 }
 
+PictureShape shape_of(RecordOptions const& options) {
+    return {options.width, options.height, options.samples, options.supersample, options.stretch};
+}
+
 std::string Canvas::Create(PictureShape const& wanted) {
     shape = wanted;
     Area const place = shape.Place();
@@ -48,6 +52,16 @@ void Canvas::Read(std::uint8_t* pixels) {
             for (std::size_t x = 0; x < width; ++x)
                 average_square(from + 4 * n * x, row, shape.supersample, to + 3 * x);
     }
+}
+
+sf::Image Canvas::Image() {
+    std::vector<std::uint8_t> pixels(shape.Bytes());
+    Read(pixels.data());
+    std::vector<std::uint8_t> opaque(pixels.size() / 3 * 4, 255);
+    for (std::size_t i = 0; i < pixels.size() / 3; ++i) std::copy_n(&pixels[3 * i], 3, &opaque[4 * i]);
+    sf::Image image;
+    image.create(shape.width, shape.height, opaque.data());
+    return image;
 }
 
 void average_square(std::uint8_t const* from, std::size_t row, unsigned int n, std::uint8_t* to) {

@@ -2,7 +2,9 @@
 
 #include "runtime/area.h"
 #include "tools/offscreen/framebuffer.h"
+#include "tools/record/options.h"
 
+#include <SFML/Graphics/Image.hpp>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -22,6 +24,8 @@ struct PictureShape {
     std::size_t Bytes() const { return std::size_t{3} * width * height; }
 };
 
+PictureShape shape_of(RecordOptions const& options);
+
 /// A picture that the show is drawn into, on the current OpenGL context, and read out of as bare pixels.
 class Canvas {
 public:
@@ -31,6 +35,9 @@ public:
     /// Reads the picture as drawn so far.
     /// @param pixels  height x width x 3 bytes, upper row first; black beside the show's place is left as it is
     void Read(std::uint8_t* pixels);
+
+    /// @return the same picture, opaque
+    sf::Image Image();
 
 private:
     PictureShape shape;

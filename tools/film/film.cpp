@@ -32,7 +32,7 @@ Soundtrack measure_music() {
 }
 
 RenderTask render_task(RecordOptions const& options, Soundtrack const& music) {
-    return {.shape = {options.width, options.height, options.samples, options.supersample, options.stretch},
+    return {.shape = shape_of(options),
             .film = options.film,
             .scene = options.scene,
             .rate = *options.film.rate,

@@ -2,6 +2,7 @@
 
 #include "runtime/frame.h"
 #include "runtime/playback.h"
+#include "show/datacheck.h"
 #include "tools/film/descriptors.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
@@ -34,6 +35,7 @@ int render(RenderTask const& task, RenderShare const& share) {
     if (!context.Open()) return fail("EGL offers no OpenGL context to draw off-screen with");
     Canvas canvas;
     if (std::string const error = canvas.Create(task.shape); !error.empty()) return fail(error);
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return fail(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);

@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr std::size_t most_moments = 10000;
+constexpr std::size_t most_steps = 1000000; // all moments of the longest show, and a few twice
+constexpr std::size_t places = 3;
 
 std::vector<std::string> split(std::string const& text, char separator) {
     std::vector<std::string> parts;
@@ -20,23 +21,42 @@ std::vector<std::string> split(std::string const& text, char separator) {
     return parts;
 }
 
-/// @return false if there are too many already
-bool add_once(std::vector<Millibeats>& moments, Millibeats at) {
-    if (std::find(moments.begin(), moments.end(), at) != moments.end()) return true;
-    moments.push_back(at);
-    return moments.size() <= most_moments;
+/// Whether a decimal number has more places than a moment.
+bool is_finer(std::string const& text) {
+    std::size_t const point = text.find('.');
+    if (point == std::string::npos) return false;
+    return text.find_first_not_of('0', std::min(point + 1 + places, text.size())) != std::string::npos;
 }
 
-bool add_range(std::vector<Millibeats>& moments, std::vector<std::string> const& parts) {
-    auto const from = parse_beat(parts[0]);
-    auto const to = parse_beat(parts[1]);
-    auto const step = parse_beat(parts[2]);
-    if (!from || !to || !step || *step == 0 || *from >= *to) return false;
-    for (Millibeats at = *from; at < *to; at += *step) {
-        if (!add_once(moments, at)) return false;
+/// The moments of a list, each once, in the order of the list.
+class Moments {
+public:
+    /// @return false if there have been too many
+    bool Add(Millibeats at) {
+        if (++steps > most_steps) return false;
+        auto const index = static_cast<std::size_t>(at);
+        if (!taken[index]) found.push_back(at);
+        taken[index] = true;
+        return true;
     }
-    return true;
-}
+    /// @param parts  from, to, step
+    bool AddRange(std::vector<std::string> const& parts) {
+        auto const from = parse_beat(parts[0]);
+        auto const to = parse_beat(parts[1]);
+        auto const step = parse_beat(parts[2]);
+        if (!from || !to || !step || *step == 0 || *from >= *to) return false;
+        for (Millibeats at = *from; at < *to; at += *step) {
+            if (!Add(at)) return false;
+        }
+        return true;
+    }
+    std::vector<Millibeats> Take() { return std::move(found); }
+
+private:
+    std::vector<Millibeats> found;
+    std::vector<bool> taken = std::vector<bool>(std::size_t{most_beats} * one_beat + 1);
+    std::size_t steps = 0;
+};
 
 } // namespace
 
@@ -71,21 +91,22 @@ std::optional<Millibeats> parse_beat(std::string const& text) {
     double beats = 0;
     auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
     if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
-    return static_cast<Millibeats>(std::floor(beats * one_beat + 1e-6)); // 3.001 x 1000 is slightly below 3001
+    if (is_finer(text)) return {};
+    return static_cast<Millibeats>(std::lround(beats * one_beat));
 }
 
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text) {
-    std::vector<Millibeats> moments;
+    Moments moments;
     for (std::string const& item : split(text, ',')) {
         std::vector<std::string> const parts = split(item, ':');
         if (parts.size() == 3) {
-            if (!add_range(moments, parts)) return {};
+            if (!moments.AddRange(parts)) return {};
             continue;
         }
         auto const at = parts.size() == 1 ? parse_beat(item) : std::nullopt;
-        if (!at || !add_once(moments, *at)) return {};
+        if (!at || !moments.Add(*at)) return {};
     }
-    return moments;
+    return moments.Take();
 }
 
 std::string padded_beat(Millibeats at) {

@@ -40,9 +40,9 @@ private:
 inline bool frame_is_before(int frame, Millibeats moment) { return frame < frame_at(moment); }
 
 /// Reads "0.5,3.25" or "0:16:0.5" (from, to, step; the end is left out), or a list of both.
-/// @param text  decimal numbers from 0 to most_beats, cut to three places
+/// @param text  decimal numbers from 0 to most_beats, of three places at most
 /// @return the moments in order, without repetitions; nothing if the text is anything else, a range is empty or there
-///         are more than 10000 moments
+///         are more than a million moments, repetitions counted
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text);
 
 /// Reads one such number.

@@ -2,14 +2,12 @@
 
 #include "tools/arguments/arguments.h"
 #include "tools/files/png.h"
+#include "tools/files/streams.h"
 #include "tools/record/filmformat.h"
 
 #include <algorithm>
-#include <iostream>
 
 namespace {
-
-constexpr char const* name = "hardsilence-record";
 
 constexpr unsigned int largest_side = 8192; // pixels
 constexpr unsigned int most_samples = 64;
@@ -37,7 +35,7 @@ void add_options(CLI::App& app, RecordOptions& options) {
     using Value = std::string const&;
     // clang-format off
     add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
-              "a list of beats such as 0.5,3.25 or 0:16:0.5",
+              "a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths",
               "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
     app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
     add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
@@ -109,13 +107,11 @@ void complete(RecordOptions& options, FilmFormat const* format) {
 
 } // namespace
 
-int complain(std::string const& message) {
-    std::cerr << name << ": " << message << std::endl;
-    return 1;
-}
+int complain(std::string const& message) { return complain(recorder_name, message); }
 
 std::optional<int> read_command_line(int argc, char const* const* argv, RecordOptions& options) {
-    CLI::App app("Takes pictures of Hard Silence: PNG files of its frames at given beats, drawn off-screen.", name);
+    CLI::App app("Takes pictures of Hard Silence: PNG files of its frames at given beats, drawn off-screen.",
+                 recorder_name);
     app.footer("The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it\n"
                "on which the show has counted the beat.");
     set_up(app);

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+inline constexpr char const* recorder_name = "hardsilence-record";
+
 /// The recorder's options.
 struct RecordOptions {
     std::vector<Millibeats> beats;

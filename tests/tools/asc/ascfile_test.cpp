@@ -119,6 +119,20 @@ TEST(AscParse, GoesOnWithTheNextObjectAfterAFault) {
     EXPECT_EQ(file.objects[0].object.name, "good");
 }
 
+TEST(AscParse, EndsAtItsLimits) {
+    asc::ReadFile const feeds = asc::parse(std::string(100000, '\n'));
+    EXPECT_EQ(feeds.faults.size(), 1001U);
+    EXPECT_EQ(feeds.faults.back().text, "too many faults; the rest is not read");
+    std::vector<asc::Object> objects;
+    for (int i = 0; i < 10001; ++i) objects.push_back(triangle("o" + std::to_string(i)));
+    asc::ReadFile const many = asc::parse(asc::write(objects));
+    EXPECT_EQ(many.objects.size(), 10000U);
+    ASSERT_EQ(many.faults.size(), 1U);
+    EXPECT_EQ(many.faults[0].text, "more than 10000 objects");
+    objects.pop_back();
+    EXPECT_TRUE(asc::parse(asc::write(objects)).faults.empty());
+}
+
 TEST(AscParse, SurvivesEveryCutAndEveryBrokenByteOfAFile) {
     std::string const whole = asc::write({triangle("one"), triangle("two")});
     for (std::size_t at = 0; at < whole.size(); ++at) {

@@ -271,6 +271,23 @@ TEST_F(AscCommand, KeepsAnOldFileWhereANewOneDoesNotFit) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path("")), {}), 4);
 }
 
+TEST_F(AscCommand, RefusesATooLargeSheetBeforeItDraws) {
+    put("one.off", tetrahedron_off);
+    ASSERT_EQ(call("convert one.off -o one.asc").status, 0);
+    std::string const object = get("one.asc");
+    std::string all;
+    for (int i = 0; i < 5000; ++i) {
+        std::string const name = "o" + std::to_string(i);
+        all += (i > 0 ? "\r\n" : "") + std::string("Named object: \"") + name + object.substr(object.find("\"\r\n"));
+    }
+    put("all.asc", all);
+    Outcome const run = call("sheet all.asc -o s.png");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.error,
+              "asc: the sheet would have 1620x180000 pixels; no side may have more than 65535, nor all of it "
+              "more than 67108864\n");
+}
+
 TEST_F(AscCommand, FailsWhereItsOutputDoes) {
     put("box.obj", box_obj);
     ASSERT_EQ(call("convert box.obj -o box.asc").status, 0);

@@ -71,6 +71,21 @@ TEST(Png, IsNothingWithoutPixels) {
     EXPECT_FALSE(fs::exists(folder.Path("a.png")));
 }
 
+TEST(Png, HasAStatedLargestSize) {
+    EXPECT_EQ(refuse_size("it", {8192, 8192}) + refuse_size("it", {65535, 1024}) + refuse_size("it", {1, 65535}), "");
+    std::pair<PictureSize, std::string> const cases[] = {
+        {{8193, 8192}, "8193x8192"},       {{65536, 1}, "65536x1"},
+        {{1, 65536}, "1x65536"},           {{4294967296, 4294967296}, "4294967296x4294967296"},
+        {{4294967297, 1}, "4294967297x1"},
+    };
+    for (auto const& [size, text] : cases) {
+        EXPECT_EQ(refuse_size("it", size), "it would have " + text +
+                                               " pixels; no side may have more than 65535, nor "
+                                               "all of it more than 67108864");
+    }
+    EXPECT_EQ(encode_png(plain_image(65536, 1)), "");
+}
+
 TEST(Png, IsWrittenWhole) {
     support::TempFolder const folder;
     sf::Image const image = noise(30, 20);

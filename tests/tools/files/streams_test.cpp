@@ -64,6 +64,38 @@ TEST(Streams, ClosedOnesAreNotTakenByTheNextFile) {
     }
 }
 
+TEST(Streams, TextIsWrittenOutWhereItWouldSteerATerminal) {
+    std::pair<std::string, std::string> const cases[] = {
+        {"", ""},
+        {"plain ~!", "plain ~!"},
+        {"\x1b[31mred\n", "\\x1b[31mred\\x0a"},
+        {std::string("\0\x7f", 2), "\\x00\\x7f"},
+        {"gr\u00fc\u00df \u20ac \U0001f3b5", "gr\u00fc\u00df \u20ac \U0001f3b5"},
+        {"\u009b31m", "\\xc2\\x9b31m"},
+        {"\x9b"
+         "31m",
+         "\\x9b31m"},
+        {"cut \xe2\x82", "cut \\xe2\\x82"},
+        {"\xc0\x9b \xe0\x82\x9b \xed\xa0\x80 \xf4\x90\x80\x80 \xff",
+         "\\xc0\\x9b \\xe0\\x82\\x9b \\xed\\xa0\\x80 \\xf4\\x90\\x80\\x80 \\xff"},
+    };
+    for (auto const& [text, out] : cases) EXPECT_EQ(printable(text), out);
+}
+
+TEST(Streams, WhatAToolThrowsIsOneLine) {
+    auto const end = [](std::function<int()> const& work) {
+        return support::run_in_child([&] { return run_tool("tool", work); });
+    };
+    Outcome const memory = end([]() -> int { throw std::bad_alloc(); });
+    EXPECT_EQ(memory.status, 1);
+    EXPECT_EQ(memory.error, "tool: out of memory\n");
+    Outcome const other = end([]() -> int { throw std::runtime_error("two\nlines"); });
+    EXPECT_EQ(other.status, 1);
+    EXPECT_EQ(other.error, "tool: two\\x0alines\n");
+    EXPECT_EQ(end([] { return 0; }).status, 0);
+    EXPECT_EQ(end([] { return 7; }).status, 7);
+}
+
 TEST(Streams, TheLimitOnFileSizesIsAnError) {
     support::TempFolder const folder;
     Outcome const end = support::run_in_child([&] {

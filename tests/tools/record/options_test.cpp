@@ -49,7 +49,7 @@ TEST(RecordOptions, ListNeedsNothingElse) {
 }
 
 TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
-    std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5";
+    std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths";
     std::string const no_picture = "no beats to record, see --beats; nor a film, see --film";
     std::string const no_size = " is not a size such as 1024x768, up to 8192x8192";
     // clang-format off
@@ -66,6 +66,10 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--beats", "1", "--out"},   "--out: 1 required DIR missing"},
         {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats},
         {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats},
+        {{"--beats", "0:1:0.0005"},   "--beats: '0:1:0.0005'" + no_beats},
+        {{"--beats", "1.0000"
+                     "0000000000000000000000000000000000000000000000000000000000000001"},
+                                      "--beats: '1." + std::string(55, '0') + "...'" + no_beats},
         {{"--out", ""},               "--out: '' is not a path"},
         {{"--sheet", ""},             "--sheet: '' is not a path that ends in .png"},
         {{"--sheet", "a.jpg"},        "--sheet: 'a.jpg' is not a path that ends in .png"},

@@ -5,6 +5,7 @@
 #include "tests/support/images.h"
 #include "tests/support/temp.h"
 
+#include <chrono>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <iomanip>
@@ -172,7 +173,7 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     std::string const length = std::to_string(first.length);
     std::string const past_the_end = " lies past the last frame of the show, which has " + beats + " beats";
     std::pair<std::string, std::string> const cases[] = {
-        {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"},
+        {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths"},
         {"--beats 1 --out . --scene Finale", "no scene is called 'Finale'; there are " + names()},
         {"--beats " + beats + " --out .", "beat " + beats + past_the_end},
         {"--beats " + last + ".99 --out .", "beat " + last + ".99" + past_the_end},
@@ -210,6 +211,45 @@ TEST_F(Recorder, NeverLeavesHalfAPictureNorTakesAnOldOne) {
     }
     EXPECT_TRUE(read_all(In("beat_001.000.png")) + read_all(In("sheet.png")) == "oldold");
     EXPECT_EQ(std::distance(fs::directory_iterator(In("")), {}), 2);
+}
+
+TEST_F(Recorder, RefusesATooLargeSheetAtOnce) {
+    struct {
+        char const* arguments;
+        char const* size;
+    } const rows[] = {
+        {"--beats 0:42:0.1 --size 320x8192 --samples 0 --columns 1", "328x3451564"},
+        {"--beats 0:383:0.001 --size 1024x768 --samples 0", "1304x16698804"},
+        {"--beats 0:40:0.01 --size 300x1000 --columns 100", "30404x41044"},
+    };
+    for (auto const& row : rows) {
+        auto const start = std::chrono::steady_clock::now();
+        Outcome const outcome = Record(row.arguments + std::string(" --sheet s.png"));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+        EXPECT_EQ(outcome.status, 1) << row.arguments;
+        EXPECT_EQ(outcome.error, "hardsilence-record: the sheet would have " + std::string(row.size) +
+                                     " pixels; no side may have more than 65535, nor all of it more than 67108864\n");
+    }
+}
+
+TEST_F(Recorder, NeedsItsWorkingFolderForRelativePathsOnly) {
+    fs::create_directory(In("gone"));
+    std::string const leave = "cd gone && rmdir ../gone && ";
+    Outcome outcome = Record("--beats 1 --size 16x12 --out a", {}, leave);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.error, "hardsilence-record: cannot tell the working folder: No such file or directory\n");
+    fs::create_directory(In("gone"));
+    outcome = Record("--beats 1 --size 16x12 --out '" + In("a") + "'", {}, leave);
+    EXPECT_EQ(outcome.status, 0) << outcome.error;
+    EXPECT_EQ(outcome.output, In("a/beat_001.000.png") + "\n");
+}
+
+TEST_F(Recorder, WritesNamesOutThatWouldSteerATerminal) {
+    folder.Write("file", "");
+    Outcome const outcome = Record("--beats 1 --out \"$(printf 'file/a\\033[31m\\nb')\"");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.error,
+              "hardsilence-record: cannot make the folder " + In("file/a\\x1b[31m\\x0ab") + ": Not a directory\n");
 }
 
 TEST_F(Recorder, FailsWhereItsOutputDoes) {
