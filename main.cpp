@@ -9,6 +9,7 @@
 #include "runtime/frame.h"
 #include "runtime/modekeeper.h"
 #include "runtime/opening.h"
+#include "runtime/resources.h"
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
 #include "runtime/streams.h"
@@ -20,6 +21,7 @@
 #include <exception>
 #include <iostream>
 #include <optional>
+#include <unistd.h>
 #include <utility>
 
 bool quit = false;
@@ -29,6 +31,7 @@ namespace {
 constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
 constexpr int last_beat = 9998;        // safety stop
+bool sound_hangs = false;              // at the end of the show
 
 struct HeldKey {
     sf::Keyboard::Key key;
@@ -205,6 +208,7 @@ void run_show(sf::Window& window, Settings const& settings, DesktopWindow* deskt
     deadline::set_for_the_end();
     music->Pause();
     if (fps_counter && settings.pace) timing.Report();
+    sound_hangs = player->Hangs();
 }
 
 namespace {
@@ -222,7 +226,8 @@ int play(DroppingStreams& streams) {
         return 1;
     }
     auto const settings = settings_from_environment();
-    if (!settings || (settings->check && !data_is_good()) || !window_possible()) return 1;
+    if (!settings || !enough_resources()) return 1;
+    if ((settings->check && !data_is_good()) || !window_possible()) return 1;
     auto const monitors = find_monitors();
     if (settings->list_monitors) {
         print_monitors(monitors);
@@ -261,7 +266,9 @@ int main(int argc, char** argv) {
     DroppingStreams streams;
     if (auto const status = read_command_line(argc, argv)) return *status;
     try {
-        return play(streams);
+        int const status = play(streams);
+        if (sound_hangs) _exit(status); // whoever waits for that waits long
+        return status;
     } catch (std::exception const& error) {
         std::cerr << "The computer lacks something that the show needs: " << error.what() << std::endl;
         return 1;

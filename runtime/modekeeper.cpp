@@ -77,7 +77,8 @@ void become_a_process_apart(int& line) {
     become_a_process_apart(line);
     char word = 0;
     ssize_t got = 0;
-    while ((got = read(line, &word, 1)) < 0 && errno == EINTR) {}
+    while ((got = read(line, &word, 1)) < 0 && errno == EINTR) {
+    }
     if (got == 1) _exit(0);
     alarm(longest);
     restore(before);

@@ -19,7 +19,8 @@ std::atomic<int> standard_error = STDERR_FILENO; ///< where it is while that is 
 void open_missing_streams() {
     for (int const stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         // The lowest free descriptor is this one: those below it are open.
-        if (fcntl(stream, F_GETFD) < 0) [[maybe_unused]] int const opened = open("/dev/null", O_RDWR);
+        if (fcntl(stream, F_GETFD) < 0) [[maybe_unused]]
+            int const opened = open("/dev/null", O_RDWR);
     }
 }
 

@@ -81,7 +81,8 @@ std::string play_complaint(Command command, Play const& play) {
 }
 
 Cell ends(std::string name, Command command, End end) {
-    return {std::move(name), [command = std::move(command), end = std::move(end)] { return end_complaint(command, end); }};
+    return {std::move(name),
+            [command = std::move(command), end = std::move(end)] { return end_complaint(command, end); }};
 }
 
 Cell plays(std::string name, Command command, Play play) {

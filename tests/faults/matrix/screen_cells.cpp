@@ -39,8 +39,8 @@ Words joined(Words first, Words const& second) {
 }
 
 void add_missing_displays(std::vector<Cell>& cells) {
-    for (std::string const display : {"DISPLAY", "DISPLAY=", "DISPLAY=:none", "DISPLAY=:65000", "DISPLAY=no.such.host:0",
-                                      "DISPLAY=localhost:65000", "DISPLAY=\xff:\x1b[2J"}) {
+    for (std::string const display : {"DISPLAY", "DISPLAY=", "DISPLAY=:none", "DISPLAY=:65000",
+                                      "DISPLAY=no.such.host:0", "DISPLAY=localhost:65000", "DISPLAY=\xff:\x1b[2J"}) {
         for (Kind const& kind : kinds) {
             cells.push_back(ends(shown(display) + ", " + kind.name,
                                  {.arguments = quick_show(kind), .environment = joined(kind.environment, {display})},
@@ -60,7 +60,7 @@ XScreen& screen_with(Words const& options, std::string const& size) {
 /// A display or a driver that the show tells of.
 struct Poor {
     char const* name;
-    Words server;      ///< options
+    Words server; ///< options
     char const* depth;
     Words environment;
     char const* says;
@@ -71,7 +71,10 @@ std::vector<Poor> const poor = {
     {"8 bits", {}, "8", {}, "too few bits a pixel"},
     {"15 bits", {}, "15", {}, "too few bits a pixel"},
     {"no driver", {}, "24", {"LIBGL_DRIVERS_PATH=/nonexistent"}, "driver fails: it gives no context"},
-    {"zink without Vulkan", {}, "24", {"MESA_LOADER_DRIVER_OVERRIDE=zink", "VK_DRIVER_FILES=", "VK_ICD_FILENAMES="},
+    {"zink without Vulkan",
+     {},
+     "24",
+     {"MESA_LOADER_DRIVER_OVERRIDE=zink", "VK_DRIVER_FILES=", "VK_ICD_FILENAMES="},
      "driver fails: it gives no context"},
     {"indirect, refused", {}, "24", {"LIBGL_ALWAYS_INDIRECT=1"}, "driver fails: it gives no context"},
     {"indirect", {"+iglx"}, "24", {"LIBGL_ALWAYS_INDIRECT=1"}, "driver has no display lists"},
@@ -86,7 +89,7 @@ void add_poor_displays(std::vector<Cell>& cells) {
                                  Words const environment = joined(joined(kind.environment, display.environment),
                                                                   {"DISPLAY=" + screen.Name()});
                                  return end_complaint({.arguments = quick_show(kind), .environment = environment},
-                                                  {.says = display.says});
+                                                      {.says = display.says});
                              }});
         }
     }

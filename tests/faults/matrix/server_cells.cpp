@@ -6,8 +6,8 @@
 #include <array>
 #include <csignal>
 #include <cstring>
-#include <sys/stat.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <thread>
 #include <unistd.h>

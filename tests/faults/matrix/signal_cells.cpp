@@ -15,7 +15,7 @@ struct Signal {
 };
 
 constexpr Signal signals[] = {
-    {"HUP", SIGHUP, 0},   {"INT", SIGINT, 0},   {"QUIT", SIGQUIT, 0}, {"TERM", SIGTERM, 0},
+    {"HUP", SIGHUP, 0},     {"INT", SIGINT, 0},     {"QUIT", SIGQUIT, 0},   {"TERM", SIGTERM, 0},
     {"KILL", SIGKILL, 137}, {"ABRT", SIGABRT, 134}, {"SEGV", SIGSEGV, 139}, {"USR1", SIGUSR1, 138},
 };
 
