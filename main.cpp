@@ -14,6 +14,7 @@
 #include "runtime/stopsignal.h"
 #include "runtime/streams.h"
 #include "runtime/timing.h"
+#include "show/datacheck.h"
 #include "show/show.h"
 
 #include <GL/gl.h>
@@ -212,13 +213,21 @@ void run_show(sf::Window& window, Settings const& settings, DesktopWindow* deskt
 
 namespace {
 
+/// @return false, after a line, where the data is not what the show needs
+bool data_is_good() {
+    std::string const wrong = check_meshes();
+    if (!wrong.empty()) std::cerr << wrong << std::endl;
+    return wrong.empty();
+}
+
 int play(DroppingStreams& streams) {
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
         std::cerr << missing << std::endl;
         return 1;
     }
     auto const settings = settings_from_environment();
-    if (!settings || !enough_resources() || !window_possible()) return 1;
+    if (!settings || !enough_resources()) return 1;
+    if ((settings->check && !data_is_good()) || !window_possible()) return 1;
     auto const monitors = find_monitors();
     if (settings->list_monitors) {
         print_monitors(monitors);

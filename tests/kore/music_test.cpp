@@ -121,7 +121,8 @@ TEST_F(MusicSFML, HoldsOneVisualizerAndNeverFeedsIt) {
 }
 
 TEST(SoundDevice, IsReportedMissingInOneLineAndTheShowIsSilent) {
-    if (support::sound_device_available()) GTEST_SKIP() << "there is a sound device: no_sound_test runs this without one";
+    if (support::sound_device_available())
+        GTEST_SKIP() << "there is a sound device: no_sound_test runs this without one";
     support::TempFolder const temp;
     testing::internal::CaptureStderr();
     kore::MusicSFML music;
