@@ -5,6 +5,8 @@
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <fcntl.h>
 #include <iostream>
@@ -41,7 +43,56 @@ std::size_t plain_character(std::string_view text) {
     return 0;
 }
 
+// For the report of a crash, which may not allocate. Who aborts has said why.
+constexpr int crashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL};
+constexpr std::size_t stack_size = 65536;
+char const* crashing_tool = "";
+int error_stream = STDERR_FILENO; ///< also while libraries are kept quiet
+
+void put(char const* text) { static_cast<void>(write(error_stream, text, std::strlen(text))); }
+
+extern "C" void tell_of_crash(int signal) {
+    char const number[] = {static_cast<char>('0' + signal / 10), static_cast<char>('0' + signal % 10), '\0'};
+    put(crashing_tool);
+    put(": ended by signal ");
+    put(signal < 10 ? number + 1 : number);
+    put(", a fault of its own or of a library\n");
+    // Its action is the default one again: what crashed does so again on return, and what was sent is sent again.
+    raise(signal);
+}
+
+void tell_of_crashes([[maybe_unused]] char const* name) {
+#ifndef __SANITIZE_ADDRESS__ // which tells more
+    crashing_tool = name;
+    int const copy = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    if (copy >= 0) error_stream = copy;
+    stack_t stack{};                       // a crash may be one for want of stack
+    stack.ss_sp = std::malloc(stack_size); // in use to the end
+    stack.ss_size = stack_size;
+    if (stack.ss_sp) sigaltstack(&stack, nullptr);
+    struct sigaction action {};
+    action.sa_handler = tell_of_crash;
+    action.sa_flags = static_cast<int>(SA_ONSTACK | SA_RESETHAND);
+    for (int const signal : crashes) sigaction(signal, &action, nullptr);
+#endif
+}
+
 } // namespace
+
+QuietLibraries::QuietLibraries() : before(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)) {
+    int const nothing = before >= 0 ? open("/dev/null", O_WRONLY | O_CLOEXEC) : -1;
+    if (nothing < 0) return;
+    std::cerr.flush();
+    dup2(nothing, STDERR_FILENO);
+    close(nothing);
+}
+
+QuietLibraries::~QuietLibraries() {
+    if (before < 0) return;
+    std::fflush(stderr);
+    dup2(before, STDERR_FILENO);
+    close(before);
+}
 
 std::string printable(std::string_view text) {
     std::string out;
@@ -67,6 +118,7 @@ int complain(char const* name, std::string const& message) {
 
 int run_tool(char const* name, std::function<int()> const& work) {
     prepare_streams();
+    tell_of_crashes(name);
     int status = 1;
     try {
         status = work();

@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Runs a tool: prepares the streams, does the work, tells of what it throws, and sees all of its output written.
+/// Runs a tool: prepares the streams, does the work, tells of what it throws, and sees all of its output written. A
+/// crash, a library's too, is a line before the signal ends the process.
 /// @param name  the tool's, in front of its error lines
 /// @param work  returns the exit status
 /// @return the exit status: 1 also if the work throws or standard output could not be written
@@ -17,6 +18,18 @@ int complain(char const* name, std::string const& message);
 /// The text with what would steer a terminal or break the line written out, an escape as "\x1b": control characters
 /// (U+0000 to U+001F, U+007F to U+009F), and bytes that are no UTF-8.
 std::string printable(std::string_view text);
+
+/// Discards what libraries print on standard error during its lifetime.
+class QuietLibraries {
+public:
+    QuietLibraries();
+    ~QuietLibraries();
+    QuietLibraries(QuietLibraries const&) = delete;
+    QuietLibraries& operator=(QuietLibraries const&) = delete;
+
+private:
+    int before = -1; ///< the stream as it was
+};
 
 /// Makes writing safe for a program; call it first. A standard stream that is closed becomes /dev/null, or the first
 /// file to be opened would take its place; a file beyond the limit on file sizes is an error and no signal.

@@ -1,5 +1,7 @@
 #include "tools/offscreen/offscreencontext.h"
 
+#include "tools/files/streams.h"
+
 #include <EGL/eglext.h>
 #include <GL/gl.h>
 #include <algorithm>
@@ -52,12 +54,20 @@ bool choose_config(EGLDisplay display, EGLConfig& config) {
     return false;
 }
 
+// Some drivers keep them for an older version alone, or for none.
+bool has_fixed_functions() {
+    GLuint const list = glGenLists(1);
+    if (list != 0) glDeleteLists(list, 1);
+    return list != 0;
+}
+
 } // namespace
 
 OffscreenContext::~OffscreenContext() { Close(); }
 
 bool OffscreenContext::Open() {
     Close();
+    QuietLibraries const quiet; // each driver that does not work says so in lines of its own
     return std::ranges::any_of(candidates(), [this](EGLDisplay candidate) { return OpenOn(candidate); });
 }
 
@@ -68,7 +78,7 @@ bool OffscreenContext::OpenOn(EGLDisplay candidate) {
     if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {
         // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
         context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
-        if (context != EGL_NO_CONTEXT && MakeCurrent(config)) return true;
+        if (context != EGL_NO_CONTEXT && MakeCurrent(config) && has_fixed_functions()) return true;
     }
     Close();
     return false;

@@ -17,7 +17,7 @@ public:
     ~OffscreenContext();
 
     /// Makes the context and makes it current.
-    /// @return false if no driver offers one
+    /// @return false if no driver offers one that has the fixed functions
     bool Open();
 
     /// The driver's name of the renderer, for example "llvmpipe (LLVM 15.0.6, 256 bits)"; "" before Open.

@@ -127,6 +127,7 @@ std::vector<Millibeats> overview(Timetable const& timetable) {
 }
 
 int record(RecordOptions options) {
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     OffscreenContext context;
     if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
     Framebuffer framebuffer;
@@ -136,7 +137,6 @@ int record(RecordOptions options) {
                         " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
                         std::to_string(Framebuffer::MostSamples()) + " samples");
     }
-    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);
