@@ -1,5 +1,7 @@
 #include "tools/files/streams.h"
 
+#include "runtime/streams.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
@@ -8,7 +10,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
-#include <fcntl.h>
 #include <iostream>
 #include <new>
 #include <system_error>
@@ -47,16 +48,13 @@ std::size_t plain_character(std::string_view text) {
 constexpr int crashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL};
 constexpr std::size_t stack_size = 65536;
 char const* crashing_tool = "";
-int error_stream = STDERR_FILENO; ///< also while libraries are kept quiet
-
-void put(char const* text) { static_cast<void>(write(error_stream, text, std::strlen(text))); }
 
 extern "C" void tell_of_crash(int signal) {
-    char const number[] = {static_cast<char>('0' + signal / 10), static_cast<char>('0' + signal % 10), '\0'};
-    put(crashing_tool);
-    put(": ended by signal ");
-    put(signal < 10 ? number + 1 : number);
-    put(", a fault of its own or of a library\n");
+    char const number[] = {static_cast<char>('0' + signal / 10), static_cast<char>('0' + signal % 10)};
+    write_error_line(crashing_tool);
+    write_error_line(": ended by signal ");
+    write_error_line(signal < 10 ? std::string_view(number + 1, 1) : std::string_view(number, 2));
+    write_error_line(", a fault of its own or of a library\n");
     // Its action is the default one again: what crashed does so again on return, and what was sent is sent again.
     raise(signal);
 }
@@ -64,8 +62,6 @@ extern "C" void tell_of_crash(int signal) {
 void tell_of_crashes([[maybe_unused]] char const* name) {
 #ifndef __SANITIZE_ADDRESS__ // which tells more
     crashing_tool = name;
-    int const copy = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-    if (copy >= 0) error_stream = copy;
     stack_t stack{};                       // a crash may be one for want of stack
     stack.ss_sp = std::malloc(stack_size); // in use to the end
     stack.ss_size = stack_size;
@@ -78,21 +74,6 @@ void tell_of_crashes([[maybe_unused]] char const* name) {
 }
 
 } // namespace
-
-QuietLibraries::QuietLibraries() : before(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)) {
-    int const nothing = before >= 0 ? open("/dev/null", O_WRONLY | O_CLOEXEC) : -1;
-    if (nothing < 0) return;
-    std::cerr.flush();
-    dup2(nothing, STDERR_FILENO);
-    close(nothing);
-}
-
-QuietLibraries::~QuietLibraries() {
-    if (before < 0) return;
-    std::fflush(stderr);
-    dup2(before, STDERR_FILENO);
-    close(before);
-}
 
 std::string printable(std::string_view text) {
     std::string out;
@@ -131,10 +112,7 @@ int run_tool(char const* name, std::function<int()> const& work) {
 }
 
 void prepare_streams() {
-    for (int const stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(stream, F_GETFD) >= 0) continue;
-        if (open("/dev/null", O_RDWR) < 0) return; // the lowest number that is free
-    }
+    open_missing_streams();
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 

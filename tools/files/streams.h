@@ -19,18 +19,6 @@ int complain(char const* name, std::string const& message);
 /// (U+0000 to U+001F, U+007F to U+009F), and bytes that are no UTF-8.
 std::string printable(std::string_view text);
 
-/// Discards what libraries print on standard error during its lifetime.
-class QuietLibraries {
-public:
-    QuietLibraries();
-    ~QuietLibraries();
-    QuietLibraries(QuietLibraries const&) = delete;
-    QuietLibraries& operator=(QuietLibraries const&) = delete;
-
-private:
-    int before = -1; ///< the stream as it was
-};
-
 /// Makes writing safe for a program; call it first. A standard stream that is closed becomes /dev/null, or the first
 /// file to be opened would take its place; a file beyond the limit on file sizes is an error and no signal.
 void prepare_streams();

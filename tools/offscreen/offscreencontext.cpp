@@ -1,6 +1,6 @@
 #include "tools/offscreen/offscreencontext.h"
 
-#include "tools/files/streams.h"
+#include "runtime/streams.h"
 
 #include <EGL/eglext.h>
 #include <GL/gl.h>
@@ -43,10 +43,9 @@ std::vector<EGLDisplay> candidates() {
 }
 
 // Every driver supports pbuffers, though not in every configuration; the second choice asks for nothing.
-bool choose_config(EGLDisplay display, EGLConfig& config) {
-    constexpr EGLint with_pbuffer[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT,
-                                       EGL_NONE};
-    constexpr EGLint without[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, 0, EGL_NONE};
+bool choose_config(EGLDisplay display, EGLint renderable, EGLConfig& config) {
+    EGLint const with_pbuffer[] = {EGL_RENDERABLE_TYPE, renderable, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_NONE};
+    EGLint const without[] = {EGL_RENDERABLE_TYPE, renderable, EGL_SURFACE_TYPE, 0, EGL_NONE};
     for (EGLint const* wishes : {with_pbuffer, without}) {
         EGLint count = 0;
         if (eglChooseConfig(display, wishes, &config, 1, &count) && count > 0) return true;
@@ -54,10 +53,12 @@ bool choose_config(EGLDisplay display, EGLConfig& config) {
     return false;
 }
 
-// Some drivers keep them for an older version alone, or for none.
+// Some drivers keep them for an older version alone, or for none. (Found by name: OpenGL ES has none to link with.)
 bool has_fixed_functions() {
-    GLuint const list = glGenLists(1);
-    if (list != 0) glDeleteLists(list, 1);
+    auto const make = entry_point<GLuint (*)(GLsizei)>("glGenLists");
+    auto const remove = entry_point<void (*)(GLuint, GLsizei)>("glDeleteLists");
+    GLuint const list = make && remove ? make(1) : 0;
+    if (list != 0) remove(list, 1);
     return list != 0;
 }
 
@@ -65,20 +66,24 @@ bool has_fixed_functions() {
 
 OffscreenContext::~OffscreenContext() { Close(); }
 
-bool OffscreenContext::Open() {
+bool OffscreenContext::Open(Api api) {
     Close();
-    QuietLibraries const quiet; // each driver that does not work says so in lines of its own
-    return std::ranges::any_of(candidates(), [this](EGLDisplay candidate) { return OpenOn(candidate); });
+    QuietStandardError const quiet; // each driver that does not work says so in lines of its own
+    return std::ranges::any_of(candidates(), [&](EGLDisplay candidate) { return OpenOn(candidate, api); });
 }
 
-bool OffscreenContext::OpenOn(EGLDisplay candidate) {
+bool OffscreenContext::OpenOn(EGLDisplay candidate, Api api) {
     if (candidate == EGL_NO_DISPLAY || !eglInitialize(candidate, nullptr, nullptr)) return false;
     display = candidate;
     EGLConfig config = nullptr;
-    if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {
-        // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
-        context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
-        if (context != EGL_NO_CONTEXT && MakeCurrent(config) && has_fixed_functions()) return true;
+    bool const desktop = api == Api::Desktop;
+    // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
+    constexpr EGLint newest[] = {EGL_NONE};
+    constexpr EGLint third[] = {EGL_CONTEXT_CLIENT_VERSION, 3, EGL_NONE};
+    if (eglBindAPI(desktop ? EGL_OPENGL_API : EGL_OPENGL_ES_API) &&
+        choose_config(display, desktop ? EGL_OPENGL_BIT : EGL_OPENGL_ES3_BIT, config)) {
+        context = eglCreateContext(display, config, EGL_NO_CONTEXT, desktop ? newest : third);
+        if (context != EGL_NO_CONTEXT && MakeCurrent(config) && (!desktop || has_fixed_functions())) return true;
     }
     Close();
     return false;

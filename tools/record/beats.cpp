@@ -1,6 +1,7 @@
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"
+#include "runtime/playback.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,10 +10,6 @@
 #include <sstream>
 
 namespace {
-
-// frames : millibeats = 60 x rate : 1000 x tempo
-constexpr long long frames_part = 60LL * recorded_rate;
-constexpr long long beats_part = 1LL * one_beat * beats_per_minute;
 
 constexpr std::size_t most_steps = 1000000; // all moments of the longest show, and a few twice
 constexpr std::size_t places = 3;
@@ -29,15 +26,6 @@ bool is_finer(std::string const& text) {
     std::size_t const point = text.find('.');
     if (point == std::string::npos) return false;
     return text.find_first_not_of('0', std::min(point + 1 + places, text.size())) != std::string::npos;
-}
-
-std::optional<Millibeats> parse_beat(std::string const& text) {
-    char const* const end = text.data() + text.size();
-    double beats = 0;
-    auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
-    if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
-    if (is_finer(text)) return {};
-    return static_cast<Millibeats>(std::lround(beats * one_beat));
 }
 
 /// The moments of a list, each once, in the order of the list.
@@ -70,26 +58,41 @@ private:
     std::size_t steps = 0;
 };
 
-/// The frames on which the show's clock counts its beats.
-std::vector<int> frames_of_whole_beats() {
-    BeatClock clock(beat_seconds);
-    kore::StateData state;
-    std::vector<int> frames;
-    for (int frame = 0; state.beat_count < most_beats; ++frame) {
-        state.time = static_cast<float>(frame) / static_cast<float>(recorded_rate);
-        state.new_beat = false;
-        clock.Count(state);
-        if (state.new_beat) frames.push_back(frame);
-    }
-    return frames;
-}
-
 } // namespace
 
-int frame_at(Millibeats at) {
-    static std::vector<int> const counted = frames_of_whole_beats();
+FrameGrid::FrameGrid(FrameRate rate) : my_rate(rate) {
+    BeatClock clock(beat_seconds);
+    kore::StateData state;
+    for (int frame = 0; state.beat_count < most_beats; ++frame) {
+        state.time = frame_time(frame, rate.PerSecond());
+        state.new_beat = false;
+        clock.Count(state);
+        if (state.new_beat) counted.push_back(frame);
+    }
+}
+
+int FrameGrid::FrameAt(Millibeats at) const {
+    // frames : millibeats = 60 x frames of the rate : 1000 x tempo x seconds of the rate
+    long long const frames_part = 60LL * my_rate.frames;
+    long long const beats_part = 1LL * one_beat * beats_per_minute * my_rate.seconds;
     auto const nominal = static_cast<int>((frames_part * at + beats_part - 1) / beats_part); // rounded up
-    return std::max(nominal, counted[static_cast<std::size_t>(at / one_beat)]);
+    auto const beat = static_cast<std::size_t>(at / one_beat);
+    if (at % one_beat == 0) return counted[beat]; // at some rates the clock is a frame early
+    return std::clamp(nominal, counted[beat], counted[beat + 1]);
+}
+
+int frame_at(Millibeats at) {
+    static FrameGrid const grid({recorded_rate, 1});
+    return grid.FrameAt(at);
+}
+
+std::optional<Millibeats> parse_beat(std::string const& text) {
+    char const* const end = text.data() + text.size();
+    double beats = 0;
+    auto const [rest, error] = std::from_chars(text.data(), end, beats, std::chars_format::fixed);
+    if (error != std::errc() || rest != end || !(beats >= 0 && beats <= most_beats) || std::signbit(beats)) return {};
+    if (is_finer(text)) return {};
+    return static_cast<Millibeats>(std::lround(beats * one_beat));
 }
 
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text) {

@@ -6,7 +6,8 @@
 #include "show/show.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
-#include "tools/offscreen/framebuffer.h"
+#include "tools/film/canvas.h"
+#include "tools/film/film.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
 #include "tools/record/sheet.h"
@@ -95,8 +96,7 @@ bool save(sf::Image const& image, fs::path const& path) {
 }
 
 /// Plays the show up to the last shot; writes pictures on the way and the sheet at the end.
-bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback,
-          Framebuffer const& framebuffer) {
+bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback, Canvas& canvas) {
     std::vector<std::size_t> in_time(shots.size());
     for (std::size_t i = 0; i < shots.size(); ++i) in_time[i] = i;
     std::stable_sort(in_time.begin(), in_time.end(),
@@ -108,7 +108,7 @@ bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback
         if (playback.NextFrame() <= shots[i].frame) {
             playback.SkipTo(shots[i].frame);
             playback.Draw();
-            picture = framebuffer.Read();
+            picture = canvas.Image();
         }
         if (!options.folder.empty() && !save(picture, fs::path(options.folder) / (shots[i].file + ".png")))
             return false;
@@ -130,13 +130,8 @@ int record(RecordOptions options) {
     if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     OffscreenContext context;
     if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
-    Framebuffer framebuffer;
-    if (!framebuffer.Create(options.width, options.height, options.samples)) {
-        return complain("this driver cannot draw " + std::to_string(options.width) + "x" +
-                        std::to_string(options.height) + " pixels with " + std::to_string(options.samples) +
-                        " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
-                        std::to_string(Framebuffer::MostSamples()) + " samples");
-    }
+    Canvas canvas;
+    if (std::string const error = canvas.Create(shape_of(options)); !error.empty()) return complain(error);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);
@@ -154,16 +149,18 @@ int record(RecordOptions options) {
     }
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
     Playback playback(demo, recorded_rate);
-    return take(shots, options, playback, framebuffer) ? 0 : 1;
+    return take(shots, options, playback, canvas) ? 0 : 1;
 }
 
 int run(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     effect::look = {.standard_wire = options.wire, .calm = options.calm};
-    if (!make_absolute(options.folder) || !make_absolute(options.sheet)) return 1;
+    for (std::string* const path : {&options.folder, &options.sheet, &options.film.file}) {
+        if (!make_absolute(*path)) return 1;
+    }
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
-    return record(options);
+    return options.film.Wanted() ? make_film(options) : record(options);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "tools/arguments/arguments.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
+#include "tools/record/filmformat.h"
 
 #include <algorithm>
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr unsigned int largest_side = 8192; // pixels
 constexpr unsigned int most_samples = 64;
+constexpr unsigned int most_supersample = 16;
 constexpr unsigned int most_columns = 100;
 
 bool read_beats(std::string const& value, std::vector<Millibeats>& beats) {
@@ -44,12 +46,20 @@ void add_options(CLI::App& app, RecordOptions& options) {
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
               "a scene's name; --list shows them",
               "Count the beats from the start of this scene; the files are called NAME_012.400.png");
-    app.add_flag("--frames", options.frame_after,
+    app.add_flag("--frame-after", options.frame_after,
                  "Also take the frame after each, ending in \"b\": strobes last one frame");
     add_value(app, "--size", "WxH", [&](Value v) { return read_size(v, options); },
-              "a size such as 1024x768, up to 8192x8192", "Size of a picture in pixels (1024x768)");
+              "a size such as 1024x768, up to 8192x8192",
+              "Size of a picture in pixels (1024x768; of films 1920x1080, of .gif and .webp 512x384)");
     add_value(app, "--samples", "N", [&](Value v) { return read_number(v, 0u, most_samples, options.samples); },
               "a number from 0 to 64", "Samples per pixel (4)");
+    add_value(app, "--supersample", "N",
+              [&](Value v) { return read_number(v, 1u, most_supersample, options.supersample); },
+              "a number from 1 to 16", "Draw so many times as wide and high, and average (1)");
+    app.add_flag_callback("--stretch", [&] { options.stretch = true; }, "Fill sizes that are not 4:3")
+        ->trigger_on_parse();
+    app.add_flag_callback("--letterbox", [&] { options.stretch = false; }, "Leave black beside the picture (default)")
+        ->trigger_on_parse();
     add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
               "a number from 1 to 100", "Pictures per row of the sheet (5)");
     app.add_flag_callback("--wire", [&] { options.wire = true; },
@@ -60,6 +70,39 @@ void add_options(CLI::App& app, RecordOptions& options) {
     app.add_flag("--calm", options.calm, "The calm mode: held cuts instead of strobes");
     app.add_flag("--list", options.list, "List the scenes, their first beats and lengths");
     // clang-format on
+    add_film_options(app, options.film);
+}
+
+std::string picture_fault(RecordOptions const& options) {
+    if (options.beats.empty() && !options.overview) return "no beats to record, see --beats; nor a film, see --film";
+    if (!options.beats.empty() && options.overview) return "either --beats or --overview";
+    if (!options.scene.empty() && options.overview) return "either --scene or --overview";
+    if (options.folder.empty() && options.sheet.empty()) return "nowhere to write to, see --out and --sheet";
+    return "";
+}
+
+std::string film_fault(RecordOptions const& options, FilmFormat const* format) {
+    bool const pictures = !options.beats.empty() || options.overview || options.frame_after;
+    if (pictures || !options.folder.empty() || !options.sheet.empty()) return "either pictures or a film";
+    FilmOptions const& film = options.film;
+    if (!film.file.empty() && !format && film.encoder.empty()) {
+        return "cannot tell by its name what " + film.file + " should be; known are " + format_list();
+    }
+    bool const odd = options.width % 2 != 0 || options.height % 2 != 0;
+    if (format && format->even && film.encoder.empty() && odd) {
+        return std::string(format->ending) + " takes an even width and height";
+    }
+    return film_conflict(film, !options.scene.empty());
+}
+
+/// Fills in what was left open.
+void complete(RecordOptions& options, FilmFormat const* format) {
+    bool const film = options.film.Wanted();
+    if (options.width == 0) {
+        options.width = format ? format->width : film ? 1920 : 1024;
+        options.height = format ? format->height : film ? 1080 : 768;
+    }
+    if (!options.film.rate) options.film.rate = FrameRate{format ? format->rate : recorded_rate, 1};
 }
 
 } // namespace
@@ -74,10 +117,9 @@ std::optional<int> read_command_line(int argc, char const* const* argv, RecordOp
     set_up(app);
     add_options(app, options);
     if (auto const status = read_arguments(app, argc, argv)) return status;
+    FilmFormat const* const format = find_format(options.film.file);
+    complete(options, format);
     if (options.list) return std::nullopt;
-    if (options.beats.empty() && !options.overview) return complain("no beats to record, see --beats");
-    if (!options.beats.empty() && options.overview) return complain("either --beats or --overview");
-    if (!options.scene.empty() && options.overview) return complain("either --scene or --overview");
-    if (options.folder.empty() && options.sheet.empty()) return complain("nowhere to write to, see --out and --sheet");
-    return std::nullopt;
+    std::string const fault = options.film.Wanted() ? film_fault(options, format) : picture_fault(options);
+    return fault.empty() ? std::nullopt : std::optional(complain(fault));
 }

@@ -1,5 +1,6 @@
 #include "tools/files/streams.h"
 
+#include "runtime/streams.h"
 #include "tests/support/command.h"
 #include "tests/support/temp.h"
 
@@ -104,7 +105,7 @@ TEST(Streams, ACrashIsOneLineAndItsSignal) {
     for (int const signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) {
         Outcome const end = support::run_in_child([=] {
             return run_tool("tool", [=] {
-                QuietLibraries const quiet;
+                QuietStandardError const quiet;
                 std::cerr << "noise" << std::endl;
                 return std::raise(signal);
             });
@@ -123,20 +124,6 @@ TEST(Streams, ACrashIsOneLineAndItsSignal) {
     EXPECT_EQ(real.error, "tool: ended by signal 11, a fault of its own or of a library\n");
 }
 #endif
-
-TEST(Streams, LibrariesAreQuietForAWhile) {
-    Outcome const end = support::run_in_child([] {
-        std::cerr << "before" << std::endl;
-        {
-            QuietLibraries const quiet;
-            std::cerr << "noise" << std::endl;
-            std::fputs("noise\n", stderr);
-        }
-        std::cerr << "behind" << std::endl;
-        return 0;
-    });
-    EXPECT_EQ(end.error, "before\nbehind\n");
-}
 
 TEST(Streams, TheLimitOnFileSizesIsAnError) {
     support::TempFolder const folder;

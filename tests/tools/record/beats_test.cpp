@@ -1,6 +1,7 @@
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"
+#include "runtime/playback.h"
 #include "tests/show/scores.h"
 
 #include <gmock/gmock.h>
@@ -104,4 +105,28 @@ TEST(Beats, AreCountedByTheShowsOwnClockOnThatFrame) {
         ASSERT_LT(frame, frame_at(next)) << "counted too late";
     }
     EXPECT_EQ(state.beat_count, scores::show_beats);
+}
+
+TEST(Beats, AreCountedByTheShowsOwnClockAtEveryRate) {
+    for (FrameRate const rate : {FrameRate{24000, 1001}, FrameRate{24}, FrameRate{25}, FrameRate{30}, FrameRate{50},
+                                 FrameRate{60000, 1001}, FrameRate{60}, FrameRate{144}, FrameRate{240}}) {
+        SCOPED_TRACE(rate.Text());
+        FrameGrid const grid(rate);
+        BeatClock clock(beat2seconds(beats_per_minute, 4));
+        kore::StateData state;
+        for (int frame = 0; frame <= grid.FrameAt(scores::show_beats * one_beat); ++frame) {
+            state.time = frame_time(frame, rate.PerSecond());
+            clock.Count(state);
+            ASSERT_GE(frame, grid.FrameAt(state.beat_count * one_beat)) << "counted too early";
+            ASSERT_LT(frame, grid.FrameAt((state.beat_count + 1) * one_beat)) << "counted too late";
+        }
+        EXPECT_EQ(state.beat_count, scores::show_beats);
+    }
+}
+
+TEST(Beats, LieOnTheFramesOfTheRate) {
+    EXPECT_EQ(FrameGrid({30}).FrameAt(11000), 150);
+    EXPECT_EQ(FrameGrid({24}).FrameAt(1000), 11) << "10.9 frames";
+    EXPECT_EQ(FrameGrid({60000, 1001}).FrameAt(11000), 300) << "299.7 frames";
+    EXPECT_EQ(FrameGrid({60}).FrameAt(55000), frame_at(55000));
 }

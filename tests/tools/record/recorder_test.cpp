@@ -49,7 +49,7 @@ protected:
 } // namespace
 
 TEST_F(Recorder, WritesPicturesNamedByBeatIntoAFolderOfTheCaller) {
-    Outcome const outcome = Record("--beats 12.4,0.5 --frames --size 64x48 --out a/b");
+    Outcome const outcome = Record("--beats 12.4,0.5 --frame-after --size 64x48 --out a/b");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.error, "");
     EXPECT_EQ(outcome.output, In("a/b/beat_000.500.png") + "\n" + In("a/b/beat_000.500b.png") + "\n" +
@@ -72,7 +72,7 @@ TEST_F(Recorder, CountsFromTheFirstBeatOfAScene) {
 }
 
 TEST_F(Recorder, DrawsTheSamePixelsOnEveryRun) {
-    std::string const beats = "--beats 0.5,12.4,17.5,68.1,168.2,184.5,256,325,353.5 --frames --size 256x192 ";
+    std::string const beats = "--beats 0.5,12.4,17.5,68.1,168.2,184.5,256,325,353.5 --frame-after --size 256x192 ";
     ASSERT_EQ(Record(beats + "--out first --sheet first/sheet.png").status, 0);
     ASSERT_EQ(Record(beats + "--out second --sheet second/sheet.png").status, 0);
     int count = 0;
@@ -177,7 +177,7 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
         {"--beats 1 --out . --scene Finale", "no scene is called 'Finale'; there are " + names()},
         {"--beats " + beats + " --out .", "beat " + beats + past_the_end},
         {"--beats " + last + ".99 --out .", "beat " + last + ".99" + past_the_end},
-        {"--beats " + last + ".95 --frames --out .", "beat " + last + ".95" + past_the_end},
+        {"--beats " + last + ".95 --frame-after --out .", "beat " + last + ".95" + past_the_end},
         {"--beats 1," + length + " --scene " + running_order()[0].name + " --out .",
          "beat " + length + " lies past the last frame of " + first.title + ", which has " + length + " beats"},
         {"--beats 1 --out file", "cannot make the folder " + In("file") + ": Not a directory"},
