@@ -37,8 +37,9 @@ AscFile::AscFile() : work(new Work) {}
 bool AscFile::Open(std::string const& path_) {
     path = path_;
     at = 0;
+    objects = 0;
     at_end = false;
-    return read_file(path, file);
+    return read_file(path, file, max_mesh_file);
 }
 
 bool AscFile::NextLine(std::string_view& line) {
@@ -64,6 +65,10 @@ AscFile::Result AscFile::Next() {
     Part part = ReadHeader();
     if (part == Part::Done) part = ReadVertices();
     if (part == Part::Done) part = ReadFaces();
+    if (part == Part::Done && ++objects > max_mesh_objects) {
+        Refuse("more than " + std::to_string(max_mesh_objects) + " objects");
+        part = Part::Fault;
+    }
     if (part == Part::Done) return Result::Object;
     at_end = true;
     return part == Part::Short ? Result::End : Result::Fault;

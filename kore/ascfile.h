@@ -38,7 +38,7 @@ public:
     AscFile();
 
     /// Reads the whole file into memory.
-    /// @return false if it cannot be read: missing, not permitted, or not a regular file
+    /// @return false if it cannot be read: missing, not permitted, not a regular file, or larger than max_mesh_file
     bool Open(std::string const& path);
 
     /// Reads on to the end of the next object. After End or Fault there is nothing more to read.
@@ -88,6 +88,7 @@ private:
     std::string path;
     FileText file;
     std::size_t at = 0;
+    int objects = 0;     ///< so far
     bool at_end = false; ///< set by the read that finds no line feed
     std::string buffer;  ///< one line, for the patterns of scanf
 

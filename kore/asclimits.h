@@ -1,6 +1,12 @@
 #pragma once
 
+#include <cstddef>
+
 namespace kore {
+
+/// The largest mesh file that is read, bytes; and the most objects that are read from one.
+inline constexpr std::size_t max_mesh_file = std::size_t{64} << 20;
+inline constexpr int max_mesh_objects = 10000;
 
 /// What the loader takes of one object of a mesh file.
 inline constexpr int max_object_vertices = 100000;

@@ -32,12 +32,12 @@ bool fill(int file, char* bytes, std::size_t& size) {
 
 } // namespace
 
-bool read_file(std::string const& path, FileText& text) {
+bool read_file(std::string const& path, FileText& text, std::size_t most) {
     int const file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0) return false;
     std::size_t size = 0;
     std::unique_ptr<char[]> bytes;
-    bool ok = regular_size(file, size);
+    bool ok = regular_size(file, size) && size <= most;
     if (ok) bytes.reset(new (std::nothrow) char[size]);
     ok = ok && bytes && fill(file, bytes.get(), size);
     close(file);

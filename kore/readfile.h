@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,7 +14,7 @@ public:
     std::string_view View() const { return {bytes.get(), size}; }
 
 private:
-    friend bool read_file(std::string const& path, FileText& text);
+    friend bool read_file(std::string const& path, FileText& text, std::size_t most);
 
     std::unique_ptr<char[]> bytes;
     std::size_t size = 0;
@@ -21,7 +22,8 @@ private:
 
 /// Reads a whole file.
 /// @param text  receives the bytes; unchanged on failure
-/// @return false if there is no such regular file, or it cannot be read or held in memory
-bool read_file(std::string const& path, FileText& text);
+/// @param most  bytes; a larger file is not read
+/// @return false if there is no such regular file, it is larger, or it cannot be read or held in memory
+bool read_file(std::string const& path, FileText& text, std::size_t most = std::numeric_limits<std::size_t>::max());
 
 } // namespace kore

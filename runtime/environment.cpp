@@ -47,6 +47,7 @@ effect::Look look_from_environment() {
 
 std::optional<Settings> settings_from_environment() {
     Settings settings;
+    settings.check = is_on("HARDSILENCE_CHECK");
     settings.desktop = is_on("HARDSILENCE_DESKTOP");
     settings.stretch = is_on("HARDSILENCE_STRETCH");
     settings.list_monitors = value_of("HARDSILENCE_MONITOR") == "list";

@@ -10,6 +10,7 @@
 ///
 ///     HARDSILENCE_WIRE      switch   Look::standard_wire
 ///     HARDSILENCE_CALM      switch   Look::calm
+///     HARDSILENCE_CHECK     switch   Settings::check
 ///     HARDSILENCE_DESKTOP   switch   Settings::desktop
 ///     HARDSILENCE_STRETCH   switch   Settings::stretch
 ///     HARDSILENCE_MONITOR   1 to 99  Settings::monitor; "list" for Settings::list_monitors

@@ -1,7 +1,7 @@
 #include "runtime/playback.h"
 
 void Playback::Skip() {
-    stepper.Update(NextTime(), my_rate);
+    stepper.Update(NextTime(), static_cast<float>(my_rate));
     ++next;
 }
 

@@ -2,6 +2,12 @@
 
 #include "runtime/stepper.h"
 
+/// The time of a frame, counted from 0, at a fixed rate in frames per second: seconds.
+///
+/// Where the rate is a whole number the result is that of a division in float too: a quotient of two floats that is
+/// rounded to double and then to float is the correctly rounded one (Figueroa, "When is double rounding innocuous?").
+constexpr float frame_time(int frame, double rate) { return static_cast<float>(frame / rate); }
+
 /// Plays a show at a fixed frame rate: frame i has time i / rate. Reaching a late frame takes the logic of all frames
 /// before it and none of their drawing, so it is exact and quick.
 class Playback {
@@ -9,7 +15,7 @@ public:
     /// @param demo  must outlive the playback
     /// @param rate  frames per second
     /// @param beat  length of one beat, seconds
-    Playback(kore::Demo& demo, float rate, float beat = beat_seconds) : stepper(demo, beat), my_rate(rate) {}
+    Playback(kore::Demo& demo, double rate, float beat = beat_seconds) : stepper(demo, beat), my_rate(rate) {}
 
     kore::Demo& GetDemo() { return stepper.GetDemo(); }
 
@@ -32,9 +38,9 @@ public:
     void DrawAgain(DebugCamera const& view = {}) { stepper.Draw(view); }
 
 private:
-    float NextTime() const { return static_cast<float>(next) / my_rate; }
+    float NextTime() const { return frame_time(next, my_rate); }
 
     Stepper stepper;
-    float my_rate;
+    double my_rate;
     int next = 0;
 };

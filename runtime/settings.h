@@ -2,6 +2,8 @@
 
 /// What is the viewer's choice besides the command line. With the defaults the program is the exact one.
 struct Settings {
+    bool check = false; ///< the data is looked through before the window opens, and a fault in it ends the program
+
     /// The window behaves as desktops have it: full screen leaves the video mode alone, a window opens whole, in the
     /// middle and can be resized; see DesktopWindow. The screen stays awake.
     bool desktop = false;

@@ -11,7 +11,8 @@ namespace {
 constexpr float offsets[] = {0, 0.2f, 0.4f, 0.6f}; // beats
 
 // In the calm show the outermost shell alone answers, with a cut held for one beat. What is near the camera stays
-// white: black rings and rods that pass before white flash without any strobe.
+// white: black rings and rods that pass before white flash without any strobe. The ball, whose faces the camera flies
+// through, is of wire there: a white face would leave the picture empty.
 constexpr std::size_t calm_blinker = 3;
 
 struct Shell {
@@ -19,16 +20,17 @@ struct Shell {
     float scale;
     int color;
     int calm_color;
+    bool calm_solid;
     std::size_t blinker; // counted from 0
     float spin[3];       // degrees per second
 };
 
 // clang-format off
 constexpr Shell shells[] = {
-    // name              scale  color  calm   blinker spin
-    {"hollowsoccerball", 20,    black, white, 1,      {-30, -90, -50}},
-    {"frameoctoball",    30,    white, white, 2,      {10, 30, -20}},
-    {"frameicosahedron", 150,   black, black, 3,      {-40, -30, 20}},
+    // name              scale  color  calm   calm_solid blinker spin
+    {"hollowsoccerball", 20,    black, white, false,     1,      {-30, -90, -50}},
+    {"frameoctoball",    30,    white, white, true,      2,      {10, 30, -20}},
+    {"frameicosahedron", 150,   black, black, true,      3,      {-40, -30, 20}},
 };
 // clang-format on
 
@@ -57,6 +59,7 @@ void add_shells(kore::Scene& scene, FourBlinkers const& blinkers, int length, fl
         auto model = std::make_shared<effect::SimpleModel>(models, shell.name, "");
         model->SetScale({shell.scale, shell.scale, shell.scale});
         model->SetColor(effect::look.calm ? shell.calm_color : shell.color);
+        model->DrawSolid(!effect::look.calm || shell.calm_solid);
         auto spin = std::make_shared<kore::StaticRotator>();
         spin->SetSpin({shell.spin[0], shell.spin[1], shell.spin[2]});
         scene.AddEnabler(make_enabler({model, 0, length, in_camera_view, {spin}}, beat));

@@ -22,8 +22,9 @@ bool shows_nothing(Picture const& picture) {
     return low > 1 - least_change || high < least_change;
 }
 
-/// What was painted last.
-Picture look() {
+} // namespace
+
+Picture painted() {
     std::span<float const> const levels = painter::canvas().Levels();
     Picture picture{width / block, height / block, std::vector<float>(width / block * (height / block))};
     for (std::size_t y = 0; y < height; ++y) {
@@ -34,8 +35,6 @@ Picture look() {
     for (float& l : picture.luminances) l /= block * block;
     return picture;
 }
-
-} // namespace
 
 Screening::Screening(bool calm, float rate_) : rate(rate_) {
     painter::reset(width, height);
@@ -53,7 +52,7 @@ bool Screening::Frame() {
     stepper.Update(pauses.ShowTime(now), rate);
     if (demo.GetFinished()) return false;
     stepper.Draw({});
-    Picture const picture = look();
+    Picture const picture = painted();
     verdict = meter.Watch(Now(), picture);
     Count(picture);
     ++frames;

@@ -19,6 +19,9 @@ struct Tally {
     int longest_empty = 0;    ///< frames in a row that show nothing
 };
 
+/// What the painter has painted last, as the meter sees it: mean levels of blocks of pixels.
+Picture painted();
+
 /// One performance of the show before the flash meter, with all that can happen to it.
 class Screening {
 public:

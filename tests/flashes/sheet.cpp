@@ -4,6 +4,7 @@
 #include "runtime/frame.h"
 #include "runtime/playback.h"
 #include "tests/support/withlook.h"
+#include "tools/files/png.h"
 #include "tools/offscreen/framebuffer.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/timetable.h"
@@ -74,5 +75,7 @@ int main(int argc, char** argv) {
             cells.push_back(calm.Take(row, at, " calm", framebuffer));
         }
     }
-    return make_sheet(cells, 2 * moments).saveToFile(argv[1]) ? 0 : 1;
+    std::string const error = write_png(argv[1], make_sheet(cells, 2 * moments));
+    if (!error.empty()) std::cerr << "calm_sheet: " << error << std::endl;
+    return error.empty() ? 0 : 1;
 }

@@ -4,6 +4,7 @@
 #include "tests/support/temp.h"
 
 #include <cstring>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -398,6 +399,28 @@ TEST(AscFile, HasAtTheOriginWhatNoObjectOfItsFileHas) {
         for (int v = 3; v < kore::AscFile::max_vertices; ++v) {
             for (int k = 0; k < 3; ++k) ASSERT_EQ(bits_of(file.GetVertices()[v][k]), 0u) << v;
         }
+    }
+}
+
+TEST(AscFile, TakesNoFileBeyondItsLimitsAndNoMoreObjects) {
+    support::TempFolder const folder;
+    kore::AscFile file;
+    std::string const path = folder.Write("large.asc", "");
+    std::filesystem::resize_file(path, kore::max_mesh_file + 1); // all of it a hole
+    EXPECT_FALSE(file.Open(path));
+    std::filesystem::resize_file(path, kore::max_mesh_file);
+    EXPECT_TRUE(file.Open(path));
+    std::string const one = name_line + counts(1, 1) +
+                            "Vertex list:\r\nVertex 0: X:1 Y:2 Z:3\r\nFace list:\r\n"
+                            "Face 0: A:0 B:0 C:0 AB:1 BC:1 CA:1\r\n";
+    for (int const more : {0, 1}) {
+        std::string all = one;
+        for (int i = 1; i < kore::max_mesh_objects + more; ++i) all += "\r\n" + one;
+        ASSERT_TRUE(file.Open(folder.Write("many.asc", all)));
+        for (int i = 0; i < kore::max_mesh_objects; ++i) ASSERT_EQ(file.Next(), kore::AscFile::Result::Object);
+        EXPECT_EQ(file.Next(), more == 0 ? kore::AscFile::Result::End : kore::AscFile::Result::Fault);
+        EXPECT_EQ(file.GetFault(),
+                  more == 0 ? "" : "Bad file format in " + folder.Path("many.asc") + ": more than 10000 objects.");
     }
 }
 

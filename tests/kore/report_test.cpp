@@ -50,6 +50,8 @@ TEST(ReadFile, ReadsAllBytesAndLeavesTheTextAloneOnFailure) {
     }
     EXPECT_TRUE(kore::read_file(temp.Write("empty", ""), text));
     EXPECT_EQ(text.View(), "");
+    EXPECT_TRUE(kore::read_file(temp.Path("bytes"), text, bytes.size()));
+    EXPECT_FALSE(kore::read_file(temp.Path("bytes"), text, bytes.size() - 1));
 }
 
 #ifndef __SANITIZE_ADDRESS__ // which ends the program instead

@@ -88,7 +88,7 @@ protected:
                                         "DISPLAY=:none",
                                         "WAYLAND_DISPLAY",
                                         "XDG_CACHE_HOME"};
-        for (char const* name : {"WIRE", "DESKTOP", "STRETCH", "MONITOR", "CALM", "PACE", "SOUND", "OFFSET"}) {
+        for (char const* name : {"WIRE", "CHECK", "DESKTOP", "STRETCH", "MONITOR", "CALM", "PACE", "SOUND", "OFFSET"}) {
             all.push_back(std::string("HARDSILENCE_") + name);
         }
         all.insert(all.end(), environment.begin(), environment.end());
@@ -111,7 +111,8 @@ protected:
     std::string error;
 };
 
-constexpr char const* friendly = "HARDSILENCE_DESKTOP=1\nHARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_WIRE=1\n";
+constexpr char const* friendly =
+    "HARDSILENCE_CHECK=1\nHARDSILENCE_DESKTOP=1\nHARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_WIRE=1\n";
 
 TEST_F(FrontDoor, WarnsBuildsAndPlaysWithTheFriendlySettings) {
     Run({});
@@ -147,9 +148,12 @@ TEST_F(FrontDoor, PassesTheProgramsOptionsOn) {
 
 TEST_F(FrontDoor, TurnsItsOwnOptionsIntoSettings) {
     Run({"--stretch", "--monitor", "2", "--offset", "-40"});
-    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=1\nHARDSILENCE_MONITOR=2\nHARDSILENCE_OFFSET=-40\n"
-                                 "HARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_STRETCH=1\n"
-                                 "HARDSILENCE_WIRE=1\n"));
+    EXPECT_THAT(
+        output,
+        EndsWith(
+            "hardsilence \nHARDSILENCE_CHECK=1\nHARDSILENCE_DESKTOP=1\nHARDSILENCE_MONITOR=2\nHARDSILENCE_OFFSET=-40\n"
+            "HARDSILENCE_PACE=1\nHARDSILENCE_SOUND=1\nHARDSILENCE_STRETCH=1\n"
+            "HARDSILENCE_WIRE=1\n"));
     Run({"--monitor", "list"});
     EXPECT_THAT(output, HasSubstr("HARDSILENCE_MONITOR=list\n"));
     EXPECT_THAT(output, Not(HasSubstr("Warning")));
@@ -157,8 +161,10 @@ TEST_F(FrontDoor, TurnsItsOwnOptionsIntoSettings) {
 
 TEST_F(FrontDoor, LeavesAVariableThatIsSetAsItIs) {
     Run({}, {"HARDSILENCE_WIRE=0", "HARDSILENCE_DESKTOP=", "HARDSILENCE_PACE=0", "HARDSILENCE_SOUND=no"});
-    EXPECT_THAT(output, EndsWith("hardsilence \nHARDSILENCE_DESKTOP=\nHARDSILENCE_PACE=0\nHARDSILENCE_SOUND=no\n"
-                                 "HARDSILENCE_WIRE=0\n"));
+    EXPECT_THAT(
+        output,
+        EndsWith("hardsilence \nHARDSILENCE_CHECK=1\nHARDSILENCE_DESKTOP=\nHARDSILENCE_PACE=0\nHARDSILENCE_SOUND=no\n"
+                 "HARDSILENCE_WIRE=0\n"));
 }
 
 TEST_F(FrontDoor, RefusesWhatItDoesNotKnowInOneLine) {

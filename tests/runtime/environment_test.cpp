@@ -12,7 +12,7 @@ protected:
     ~SettingsFrom() override { Clear(); }
 
     static void Clear() {
-        for (char const* name : {"DESKTOP", "STRETCH", "MONITOR", "PACE", "SOUND", "OFFSET"}) {
+        for (char const* name : {"CHECK", "DESKTOP", "STRETCH", "MONITOR", "PACE", "SOUND", "OFFSET"}) {
             unsetenv((std::string("HARDSILENCE_") + name).c_str());
         }
     }
@@ -41,7 +41,8 @@ TEST_F(SettingsFrom, SwitchesAreOnUnlessTheySayNo) {
     struct {
         char const* variable;
         bool Settings::*setting;
-    } const rows[] = {{"HARDSILENCE_DESKTOP", &Settings::desktop},
+    } const rows[] = {{"HARDSILENCE_CHECK", &Settings::check},
+                      {"HARDSILENCE_DESKTOP", &Settings::desktop},
                       {"HARDSILENCE_STRETCH", &Settings::stretch},
                       {"HARDSILENCE_PACE", &Settings::pace},
                       {"HARDSILENCE_SOUND", &Settings::sound_clock}};

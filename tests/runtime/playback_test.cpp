@@ -76,6 +76,20 @@ TEST_F(Playback, DoesNotGoBack) {
     EXPECT_EQ(diary->states.size(), 7u);
 }
 
+TEST(FrameTime, IsADivisionInFloatWhereTheRateIsAWholeNumber) {
+    for (int whole = 1; whole <= 240; ++whole) {
+        for (int frame = 0; frame < 100000; frame += 7) {
+            ASSERT_EQ(frame_time(frame, whole), static_cast<float>(frame) / static_cast<float>(whole))
+                << frame << " at " << whole;
+        }
+    }
+}
+
+TEST(FrameTime, IsTheNearestFloatAtTheRatesOfTelevision) {
+    EXPECT_EQ(frame_time(60000, 60000 / 1001.0), 1001);
+    EXPECT_EQ(frame_time(1, 60000 / 1001.0), static_cast<float>(1001 / 60000.0));
+}
+
 struct Variable {
     char const* name;
     bool effect::Look::*setting;

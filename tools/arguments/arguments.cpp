@@ -1,6 +1,19 @@
 #include "tools/arguments/arguments.h"
 
+#include "tools/files/streams.h"
+
 #include <iostream>
+
+namespace {
+
+constexpr std::size_t longest_value = 60;    // of an error line
+constexpr std::size_t longest_message = 200; // the same
+
+std::string shortened(std::string const& text, std::size_t most) {
+    return text.size() <= most ? text : text.substr(0, most - 3) + "...";
+}
+
+} // namespace
 
 void set_up(CLI::App& app) {
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
@@ -11,12 +24,14 @@ void set_up(CLI::App& app) {
     app.get_formatter()->label("REQUIRED", "(required)");
 }
 
-void add_value(CLI::App& app, std::string const& name, std::string const& type,
-               std::function<bool(std::string const&)> read, std::string const& wanted, std::string const& help) {
+CLI::Option* add_value(CLI::App& app, std::string const& name, std::string const& type,
+                       std::function<bool(std::string const&)> read, std::string const& wanted,
+                       std::string const& help) {
     auto const take = [=](std::string const& value) {
-        if (!read(value)) throw CLI::ValidationError(name, "'" + value + "' is not " + wanted);
+        if (!read(value))
+            throw CLI::ValidationError(name, "'" + shortened(value, longest_value) + "' is not " + wanted);
     };
-    app.add_option_function<std::string>(name, take, help)->type_name(type);
+    return app.add_option_function<std::string>(name, take, help)->type_name(type);
 }
 
 std::optional<int> read_arguments(CLI::App& app, int argc, char const* const* argv) {
@@ -24,8 +39,7 @@ std::optional<int> read_arguments(CLI::App& app, int argc, char const* const* ar
         app.parse(argc, argv);
     } catch (CLI::ParseError const& end) {
         if (end.get_exit_code() == 0) return app.exit(end);
-        std::cerr << app.get_name() << ": " << end.what() << std::endl;
-        return 1;
+        return complain(app.get_name().c_str(), shortened(end.what(), longest_message));
     }
     return std::nullopt;
 }

@@ -13,9 +13,10 @@ void set_up(CLI::App& app);
 /// Adds an option with a value, which is passed to its reader unchanged, even if it is "".
 /// @param type    name of the value in the help text, for example "WxH"
 /// @param read    returns false if the value is not valid
-/// @param wanted  what a valid value is, for the error line: "--size: 'x' is not <wanted>"
-void add_value(CLI::App& app, std::string const& name, std::string const& type,
-               std::function<bool(std::string const&)> read, std::string const& wanted, std::string const& help);
+/// @param wanted  what a valid value is, for the error line: "--size: 'x' is not <wanted>", a long value shortened
+CLI::Option* add_value(CLI::App& app, std::string const& name, std::string const& type,
+                       std::function<bool(std::string const&)> read, std::string const& wanted,
+                       std::string const& help);
 
 /// Reads the command line. Help and version go to standard output, one line about an error to standard error.
 /// @return the exit status, if the program ends here: 0 after help or version, 1 after an error

@@ -1,14 +1,16 @@
 #include "tools/asc/ascfile.h"
 
+#include "kore/asclimits.h"
+#include "kore/readfile.h"
+
 #include <charconv>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace asc {
 
 namespace {
+
+constexpr std::size_t most_faults = 1000; ///< of the layout of one file; the rest of it is not read
 
 constexpr std::string_view name_start = "Named object: \"";
 constexpr std::array corner_names{"A:", "B:", "C:"};
@@ -55,7 +57,7 @@ public:
     Lines(std::string_view whole, std::vector<Fault>& out) : text(whole), faults(out) {}
 
     bool Next(Line& line) {
-        if (text.empty()) return false;
+        if (text.empty() || faults.size() >= most_faults) return false;
         std::size_t const end = text.find('\n');
         line.number = ++count;
         line.text = text.substr(0, end);
@@ -85,8 +87,16 @@ public:
         if (!lines.Next(line)) AddFault("the file is empty");
         while (line.number > 0) {
             bool const good = ParseObject();
+            if (good && file.objects.size() == kore::max_mesh_objects) {
+                AddFault("more than " + std::to_string(kore::max_mesh_objects) + " objects");
+                break;
+            }
             if (good) file.objects.push_back(std::move(current));
             if (!ToNextObject(good)) break;
+        }
+        if (file.faults.size() >= most_faults) {
+            file.faults.resize(most_faults);
+            file.faults.push_back({line.number, "too many faults; the rest is not read"});
         }
         return std::move(file);
     }
@@ -151,8 +161,13 @@ private:
         Scanner scanner(line.text);
         scanner.Word("Vertex ").Number(at).Word(":").Blanks();
         scanner.Word("X:").Number(p.x).Blanks().Word("Y:").Number(p.y).Blanks().Word("Z:").Number(p.z);
-        if (!scanner.Done() || at != index || !std::isfinite(p.x + p.y + p.z)) {
+        auto const within_range = [](double v) { return std::abs(v) <= most_coordinate; }; // not for NaN
+        if (!scanner.Done() || at != index) {
             AddFault("expected vertex " + std::to_string(index) + " with X, Y and Z; the header's counts may be wrong");
+            return false;
+        }
+        if (!within_range(p.x) || !within_range(p.y) || !within_range(p.z)) {
+            AddFault("a coordinate is not a number from -1000000 to 1000000");
             return false;
         }
         current.object.vertices.push_back(p);
@@ -271,20 +286,10 @@ std::string write(std::vector<Object> const& objects) {
 }
 
 bool read_text(std::string const& path, std::string& text) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) return false;
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream all;
-    all << in.rdbuf();
-    text = all.str();
-    return in.is_open() && !in.bad();
-}
-
-bool write_text(std::string const& path, std::string const& text) {
-    std::ofstream out(path, std::ios::binary);
-    out << text;
-    out.close();
-    return out.good();
+    kore::FileText bytes;
+    if (!kore::read_file(path, bytes, kore::max_mesh_file)) return false;
+    text = bytes.View();
+    return true;
 }
 
 } // namespace asc

@@ -28,7 +28,8 @@ struct ReadFile {
 };
 
 /// Reads the text of a mesh file strictly: every departure from the layout that `write` produces is a fault.
-/// Reading continues after a fault as far as possible; an object with a layout fault is left out of `objects`.
+/// Reading continues after a fault as far as possible, up to a thousand of them; an object with a layout fault is left
+/// out of `objects`. Reading ends at kore::max_mesh_objects.
 ReadFile parse(std::string_view text);
 
 /// The objects as the text of a mesh file: CRLF line ends, one blank line between objects, none at the end.
@@ -38,9 +39,8 @@ std::string write(std::vector<Object> const& objects);
 /// The coordinate, rounded as `write` rounds it.
 double rounded(double coordinate);
 
-/// Reads a whole file into `text`. Returns false when it cannot be read (a folder, missing, no permission).
+/// Reads a whole file into `text`. Returns false when it cannot be read (a folder, missing, no permission,
+/// larger than kore::max_mesh_file).
 bool read_text(std::string const& path, std::string& text);
-/// Writes `text` to the file at `path`, replacing what was there. Returns false when that fails.
-bool write_text(std::string const& path, std::string const& text);
 
 } // namespace asc

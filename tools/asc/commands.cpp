@@ -5,6 +5,9 @@
 #include "tools/asc/creases.h"
 #include "tools/asc/import.h"
 #include "tools/asc/refine.h"
+#include "tools/files/newfile.h"
+#include "tools/files/png.h"
+#include "tools/files/streams.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -14,11 +17,16 @@ namespace asc {
 
 namespace {
 
+constexpr int most_refined = 50000; ///< triangles, which takes seconds
+
 /// @return 1, the exit status after a fault
-int failed(std::string const& text) {
-    std::cerr << "asc: " << text << '\n';
-    return 1;
-}
+int failed(std::string const& text) { return complain("asc", text); }
+
+void print(std::string const& line) { std::cout << printable(line) << '\n'; }
+
+/// @param error  what a writer returned
+/// @return the exit status
+int written(std::string const& error) { return error.empty() ? 0 : failed(error); }
 
 struct Input {
     std::string name, path;
@@ -26,7 +34,8 @@ struct Input {
 
 Input input_of(std::string const& argument) {
     std::size_t const equals = argument.find('=');
-    if (equals == std::string::npos) return {"", argument};
+    std::error_code error;
+    if (equals == std::string::npos || std::filesystem::exists(argument, error)) return {"", argument};
     return {argument.substr(0, equals), argument.substr(equals + 1)};
 }
 
@@ -40,7 +49,7 @@ int save_objects(std::vector<Object> const& objects, std::string const& out) {
     if (auto const faults = faults_of(parse(text), false); !faults.empty()) {
         return failed(out + " would be faulty: " + faults.front().text);
     }
-    return write_text(out, text) ? 0 : failed("cannot write " + out);
+    return written(write_file(out, text));
 }
 
 /// Adds the objects of a mesh file.
@@ -73,7 +82,23 @@ bool load_all(std::vector<std::string> const& inputs, std::vector<Object>& objec
 
 int save_picture(std::optional<sf::Image> const& picture, std::string const& out) {
     if (!picture) return failed("OpenGL cannot draw such a picture off-screen");
-    return picture->saveToFile(out) ? 0 : failed("cannot write " + out);
+    return written(write_png(out, *picture));
+}
+
+int save_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel, std::string const& out) {
+    std::string const error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    return error.empty() ? save_picture(draw_sheet(objects, columns, panel), out) : failed(error);
+}
+
+/// @return whether the result would replace a file that it is made of, after one error line
+bool replaces_input(std::vector<std::string> const& inputs, std::string const& out) {
+    for (std::string const& argument : inputs) {
+        std::error_code error;
+        if (!std::filesystem::equivalent(input_of(argument).path, out, error)) continue;
+        failed(out + " is read, and would be replaced; --force does it");
+        return true;
+    }
+    return false;
 }
 
 /// Turns an object as read into one for the show.
@@ -84,6 +109,10 @@ std::string make_ready(Object& object, ConvertOptions const& options) {
     clean(object, options.weld);
     wind(object);
     if (object.faces.empty()) return "nothing is left of object '" + object.name + "'";
+    if (options.size && least_refined(object, *options.size) > most_refined) {
+        return "--refine would cut object '" + object.name + "' into more than " + std::to_string(most_refined) +
+               " triangles";
+    }
     if (options.size && !refine(object, *options.size, options.min_angle)) {
         return "the facets of object '" + object.name + "' cannot be made to fit each other";
     }
@@ -94,6 +123,7 @@ std::string make_ready(Object& object, ConvertOptions const& options) {
 } // namespace
 
 int convert(ConvertOptions const& options) {
+    if (!options.force && replaces_input(options.inputs, options.out)) return 1;
     std::vector<Object> objects;
     for (std::string const& argument : options.inputs) {
         Input const input = input_of(argument);
@@ -108,6 +138,7 @@ int convert(ConvertOptions const& options) {
 }
 
 int join(JoinOptions const& options) {
+    if (!options.force && replaces_input(options.inputs, options.out)) return 1;
     std::vector<Object> objects;
     return load_all(options.inputs, objects) ? save_objects(objects, options.out) : 1;
 }
@@ -121,9 +152,9 @@ int check(CheckOptions const& options) {
             continue;
         }
         ReadFile const file = parse(text);
-        for (ReadObject const& read : file.objects) std::cout << path << ": " << summary(read.object) << '\n';
+        for (ReadObject const& read : file.objects) print(path + ": " + summary(read.object));
         for (Fault const& fault : faults_of(file, options.shatter)) {
-            std::cout << path << ':' << fault.line << ": " << fault.text << '\n';
+            print(path + ":" + std::to_string(fault.line) + ": " + fault.text);
             status = 1;
         }
     }
@@ -139,16 +170,18 @@ int preview(PreviewOptions const& options) {
     }
     std::string out = options.out;
     if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
-    if (!options.camera) return save_picture(draw_sheet(objects, 2, 380), out);
+    if (!options.force && replaces_input({options.file}, out)) return 1;
+    if (!options.camera) return save_sheet(objects, 2, 380, out);
     View view = options.view;
     view.camera = *options.camera;
     return save_picture(draw_view(objects, view, 1024, 768), out);
 }
 
 int sheet(SheetOptions const& options) {
+    if (!options.force && replaces_input(options.files, options.out)) return 1;
     std::vector<Object> objects;
     if (!load_all(options.files, objects)) return 1;
-    return save_picture(draw_sheet(objects, options.columns, options.panel), options.out);
+    return save_sheet(objects, options.columns, options.panel, options.out);
 }
 
 } // namespace asc

@@ -16,6 +16,10 @@ namespace asc {
 
 namespace {
 
+constexpr unsigned int caption = 22, gap = 8; // pixels, on a sheet
+
+sf::Vector2u cell_of(unsigned int panel) { return {2 * panel + 3 * gap, panel + caption + gap}; }
+
 /// A picture to draw into, in the show's OpenGL state.
 struct Target {
     OffscreenContext context;
@@ -182,8 +186,13 @@ std::optional<sf::Image> draw_view(std::vector<Object> const& objects, View cons
     return target.framebuffer.Read();
 }
 
+PictureSize sheet_size(std::size_t count, unsigned int columns, unsigned int panel) {
+    std::uint64_t const in_row = std::min<std::uint64_t>(columns, count);
+    sf::Vector2u const cell = cell_of(panel);
+    return {in_row * cell.x, (count + in_row - 1) / in_row * cell.y};
+}
+
 std::optional<sf::Image> draw_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel) {
-    constexpr unsigned int caption = 22, gap = 8;
     Target target;
     if (!target.Open(panel, panel)) return std::nullopt;
     glEnable(GL_POLYGON_OFFSET_FILL);
@@ -192,13 +201,14 @@ std::optional<sf::Image> draw_sheet(std::vector<Object> const& objects, unsigned
 
     auto const count = static_cast<unsigned int>(objects.size());
     columns = std::min(columns, count);
-    unsigned int const cell_width = 2 * panel + 3 * gap, cell_height = panel + caption + gap;
+    PictureSize const size = sheet_size(count, columns, panel);
     sf::Image sheet;
-    sheet.create(columns * cell_width, (count + columns - 1) / columns * cell_height, sf::Color(225, 225, 225));
+    sheet.create(static_cast<unsigned int>(size.width), static_cast<unsigned int>(size.height),
+                 sf::Color(225, 225, 225));
     for (unsigned int i = 0; i < count; ++i) {
         Object const& object = objects[i];
         kore::AscModel_ptr const models = library_of(object);
-        unsigned int const x = i % columns * cell_width + gap, y = i / columns * cell_height + gap;
+        unsigned int const x = i % columns * cell_of(panel).x + gap, y = i / columns * cell_of(panel).y + gap;
         sheet.copy(smoothed(target, panel, [&] { draw_panel(object, models, true); }), x, y);
         sheet.copy(smoothed(target, panel, [&] { draw_panel(object, models, false); }), x + panel + gap, y);
         write_text(sheet, x, y + panel + 4, 1, object.name + "  " + std::to_string(object.faces.size()) + " faces");

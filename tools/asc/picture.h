@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/asc/mesh.h"
+#include "tools/files/png.h"
 
 #include <SFML/Graphics/Image.hpp>
 #include <optional>
@@ -27,10 +28,13 @@ struct View {
 std::optional<sf::Image> draw_view(std::vector<Object> const& objects, View const& view, unsigned int width,
                                    unsigned int height);
 
+/// The size of a sheet of this many objects, see draw_sheet.
+PictureSize sheet_size(std::size_t count, unsigned int columns, unsigned int panel);
+
 /// A sheet of panels, two for each object: solid, and its lines (those shown black, the others grey), with name and
 /// face count below. Flat objects are seen from the front, others from the upper right or from where more of them
 /// shows; all are stretched to 4/3 of their width, like the show's picture. Lines are drawn clear of the faces.
-/// @param objects  at least one
+/// @param objects  at least one; the sheet must not be larger than pictures may be
 /// @param columns  objects in a row, above 0
 /// @param panel    width and height of a panel, pixels, above 0
 /// @return nothing if OpenGL cannot draw such panels

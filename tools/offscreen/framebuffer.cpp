@@ -62,18 +62,21 @@ void Framebuffer::Delete(Target& target) {
     target = {};
 }
 
-sf::Image Framebuffer::Read() const {
+void Framebuffer::ReadRows(std::uint8_t* pixels) const {
     auto const wide = static_cast<GLsizei>(width);
     auto const high = static_cast<GLsizei>(height);
-    std::size_t const row = std::size_t{4} * width;
-    std::vector<sf::Uint8> upside_down(row * height);
-
     glBindFramebuffer(GL_READ_FRAMEBUFFER, drawn.frame);
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolved.frame);
     glBlitFramebuffer(0, 0, wide, high, 0, 0, wide, high, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     glBindFramebuffer(GL_READ_FRAMEBUFFER, resolved.frame);
-    glReadPixels(0, 0, wide, high, GL_RGBA, GL_UNSIGNED_BYTE, upside_down.data());
+    glReadPixels(0, 0, wide, high, GL_RGBA, GL_UNSIGNED_BYTE, pixels);
     glBindFramebuffer(GL_FRAMEBUFFER, drawn.frame);
+}
+
+sf::Image Framebuffer::Read() const {
+    std::size_t const row = std::size_t{4} * width;
+    std::vector<sf::Uint8> upside_down(row * height);
+    ReadRows(upside_down.data());
 
     std::vector<sf::Uint8> pixels(upside_down.size());
     for (std::size_t y = 0; y < height; ++y) std::memcpy(&pixels[y * row], &upside_down[(height - 1 - y) * row], row);

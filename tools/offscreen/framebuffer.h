@@ -1,6 +1,7 @@
 #pragma once
 
 #include <SFML/Graphics/Image.hpp>
+#include <cstdint>
 
 /// A picture to draw into on the current OpenGL context: colour in 8 bits a channel, depth in 24 bits, several samples
 /// a pixel. It must not outlive the context.
@@ -20,6 +21,10 @@ public:
     /// What the current context's driver allows.
     static unsigned int LargestSide(); ///< pixels
     static unsigned int MostSamples();
+
+    /// Resolves the samples and reads the picture as drawn so far.
+    /// @param pixels  width x height x 4 bytes: red, green, blue and what the show leaves as opacity; lower row first
+    void ReadRows(std::uint8_t* pixels) const;
 
     /// Resolves the samples.
     /// @return the picture as drawn so far, opaque, upper row first

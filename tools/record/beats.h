@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/record/framerate.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,7 +11,7 @@ using Millibeats = int;
 
 constexpr Millibeats one_beat = 1000;
 
-/// The recorder's frames per second.
+/// The frames per second at which pictures are taken, and films made unless they are asked for at another rate.
 constexpr int recorded_rate = 60;
 
 /// The longest show that the recorder can step, beats.
@@ -21,14 +23,30 @@ constexpr int most_beats = 999;
 /// @param at  from the show's first beat, 0 to most_beats
 int frame_at(Millibeats at);
 
+/// The frames of the beats at any rate.
+class FrameGrid {
+public:
+    explicit FrameGrid(FrameRate rate);
+
+    /// As frame_at. At some rates the clock counts a beat on the frame just before it; that frame is the beat's too.
+    int FrameAt(Millibeats at) const;
+
+private:
+    FrameRate my_rate;
+    std::vector<int> counted; ///< the frames on which the show's clock counts its beats
+};
+
 /// Whether a frame lies before a moment.
 inline bool frame_is_before(int frame, Millibeats moment) { return frame < frame_at(moment); }
 
 /// Reads "0.5,3.25" or "0:16:0.5" (from, to, step; the end is left out), or a list of both.
-/// @param text  decimal numbers from 0 to most_beats, cut to three places
+/// @param text  decimal numbers from 0 to most_beats, of three places at most
 /// @return the moments in order, without repetitions; nothing if the text is anything else, a range is empty or there
-///         are more than 10000 moments
+///         are more than a million moments, repetitions counted
 std::optional<std::vector<Millibeats>> parse_beats(std::string const& text);
+
+/// Reads one such number.
+std::optional<Millibeats> parse_beat(std::string const& text);
 
 /// A moment as in file names, "012.400".
 std::string padded_beat(Millibeats at);

@@ -2,19 +2,23 @@
 #include "runtime/datafolder.h"
 #include "runtime/frame.h"
 #include "runtime/playback.h"
+#include "show/datacheck.h"
 #include "show/show.h"
-#include "tools/offscreen/framebuffer.h"
+#include "tools/files/png.h"
+#include "tools/files/streams.h"
+#include "tools/film/canvas.h"
+#include "tools/film/film.h"
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
 #include "tools/record/sheet.h"
 #include "tools/record/timetable.h"
 
-#include <SFML/System/Err.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
 #include <system_error>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -73,18 +77,26 @@ bool make_folder(fs::path const& folder) {
     return !error;
 }
 
+/// The caller's paths are relative to the caller's folder, not to that of the data.
+bool make_absolute(std::string& path) {
+    if (path.empty()) return true;
+    std::error_code error;
+    path = fs::absolute(path, error).lexically_normal().string();
+    if (error) complain("cannot tell the working folder: " + error.message());
+    return !error;
+}
+
 bool save(sf::Image const& image, fs::path const& path) {
-    if (!image.saveToFile(path.string())) {
-        complain("cannot write " + path.string());
+    if (std::string const error = write_png(path.string(), image); !error.empty()) {
+        complain(error);
         return false;
     }
-    std::cout << path.string() << std::endl;
+    std::cout << (isatty(STDOUT_FILENO) ? printable(path.string()) : path.string()) << std::endl;
     return true;
 }
 
 /// Plays the show up to the last shot; writes pictures on the way and the sheet at the end.
-bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback,
-          Framebuffer const& framebuffer) {
+bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback& playback, Canvas& canvas) {
     std::vector<std::size_t> in_time(shots.size());
     for (std::size_t i = 0; i < shots.size(); ++i) in_time[i] = i;
     std::stable_sort(in_time.begin(), in_time.end(),
@@ -96,7 +108,7 @@ bool take(std::vector<Shot> const& shots, RecordOptions const& options, Playback
         if (playback.NextFrame() <= shots[i].frame) {
             playback.SkipTo(shots[i].frame);
             playback.Draw();
-            picture = framebuffer.Read();
+            picture = canvas.Image();
         }
         if (!options.folder.empty() && !save(picture, fs::path(options.folder) / (shots[i].file + ".png")))
             return false;
@@ -117,13 +129,9 @@ std::vector<Millibeats> overview(Timetable const& timetable) {
 int record(RecordOptions options) {
     OffscreenContext context;
     if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
-    Framebuffer framebuffer;
-    if (!framebuffer.Create(options.width, options.height, options.samples)) {
-        return complain("this driver cannot draw " + std::to_string(options.width) + "x" +
-                        std::to_string(options.height) + " pixels with " + std::to_string(options.samples) +
-                        " samples; it goes up to " + std::to_string(Framebuffer::LargestSide()) + " pixels and " +
-                        std::to_string(Framebuffer::MostSamples()) + " samples");
-    }
+    Canvas canvas;
+    if (std::string const error = canvas.Create(shape_of(options)); !error.empty()) return complain(error);
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);
@@ -135,21 +143,28 @@ int record(RecordOptions options) {
     if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
+    if (!options.sheet.empty()) {
+        PictureSize const size = sheet_size(shots.size(), options.columns, {options.width, options.height});
+        if (std::string const error = refuse_size("the sheet", size); !error.empty()) return complain(error);
+    }
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
     Playback playback(demo, recorded_rate);
-    return take(shots, options, playback, framebuffer) ? 0 : 1;
+    return take(shots, options, playback, canvas) ? 0 : 1;
+}
+
+int run(int argc, char** argv) {
+    RecordOptions options;
+    if (auto const status = read_command_line(argc, argv, options)) return *status;
+    effect::look = {.standard_wire = options.wire, .calm = options.calm};
+    for (std::string* const path : {&options.folder, &options.sheet, &options.film.file}) {
+        if (!make_absolute(*path)) return 1;
+    }
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
+    return options.film.Wanted() ? make_film(options) : record(options);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    RecordOptions options;
-    if (auto const status = read_command_line(argc, argv, options)) return *status;
-    sf::err().rdbuf(nullptr); // its messages about files would repeat ours
-    effect::look = {.standard_wire = options.wire, .calm = options.calm};
-    // The caller's paths are relative to the caller's folder, not to that of the data.
-    if (!options.folder.empty()) options.folder = fs::absolute(options.folder).lexically_normal().string();
-    if (!options.sheet.empty()) options.sheet = fs::absolute(options.sheet).lexically_normal().string();
-    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
-    return record(options);
+    return run_tool(recorder_name, [=] { return run(argc, argv); });
 }

@@ -1,16 +1,17 @@
 #include "tools/record/options.h"
 
 #include "tools/arguments/arguments.h"
+#include "tools/files/png.h"
+#include "tools/files/streams.h"
+#include "tools/record/filmformat.h"
 
 #include <algorithm>
-#include <iostream>
 
 namespace {
 
-constexpr char const* name = "hardsilence-record";
-
 constexpr unsigned int largest_side = 8192; // pixels
 constexpr unsigned int most_samples = 64;
+constexpr unsigned int most_supersample = 16;
 constexpr unsigned int most_columns = 100;
 
 bool read_beats(std::string const& value, std::vector<Millibeats>& beats) {
@@ -34,22 +35,31 @@ void add_options(CLI::App& app, RecordOptions& options) {
     using Value = std::string const&;
     // clang-format off
     add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
-              "a list of beats such as 0.5,3.25 or 0:16:0.5",
+              "a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths",
               "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
     app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
     add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
               "Write each picture to DIR/beat_012.400.png; DIR is created if necessary");
-    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet); }, "a path",
+    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet) && is_png_name(v); },
+              "a path that ends in .png",
               "Write a contact sheet of the pictures");
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
               "a scene's name; --list shows them",
               "Count the beats from the start of this scene; the files are called NAME_012.400.png");
-    app.add_flag("--frames", options.frame_after,
+    app.add_flag("--frame-after", options.frame_after,
                  "Also take the frame after each, ending in \"b\": strobes last one frame");
     add_value(app, "--size", "WxH", [&](Value v) { return read_size(v, options); },
-              "a size such as 1024x768, up to 8192x8192", "Size of a picture in pixels (1024x768)");
+              "a size such as 1024x768, up to 8192x8192",
+              "Size of a picture in pixels (1024x768; of films 1920x1080, of .gif and .webp 512x384)");
     add_value(app, "--samples", "N", [&](Value v) { return read_number(v, 0u, most_samples, options.samples); },
               "a number from 0 to 64", "Samples per pixel (4)");
+    add_value(app, "--supersample", "N",
+              [&](Value v) { return read_number(v, 1u, most_supersample, options.supersample); },
+              "a number from 1 to 16", "Draw so many times as wide and high, and average (1)");
+    app.add_flag_callback("--stretch", [&] { options.stretch = true; }, "Fill sizes that are not 4:3")
+        ->trigger_on_parse();
+    app.add_flag_callback("--letterbox", [&] { options.stretch = false; }, "Leave black beside the picture (default)")
+        ->trigger_on_parse();
     add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
               "a number from 1 to 100", "Pictures per row of the sheet (5)");
     app.add_flag_callback("--wire", [&] { options.wire = true; },
@@ -60,26 +70,56 @@ void add_options(CLI::App& app, RecordOptions& options) {
     app.add_flag("--calm", options.calm, "The calm mode: held cuts instead of strobes");
     app.add_flag("--list", options.list, "List the scenes, their first beats and lengths");
     // clang-format on
+    add_film_options(app, options.film);
+}
+
+std::string picture_fault(RecordOptions const& options) {
+    if (options.beats.empty() && !options.overview) return "no beats to record, see --beats; nor a film, see --film";
+    if (!options.beats.empty() && options.overview) return "either --beats or --overview";
+    if (!options.scene.empty() && options.overview) return "either --scene or --overview";
+    if (options.folder.empty() && options.sheet.empty()) return "nowhere to write to, see --out and --sheet";
+    return "";
+}
+
+std::string film_fault(RecordOptions const& options, FilmFormat const* format) {
+    bool const pictures = !options.beats.empty() || options.overview || options.frame_after;
+    if (pictures || !options.folder.empty() || !options.sheet.empty()) return "either pictures or a film";
+    FilmOptions const& film = options.film;
+    if (!film.file.empty() && !format && film.encoder.empty()) {
+        return "cannot tell by its name what " + film.file + " should be; known are " + format_list();
+    }
+    bool const odd = options.width % 2 != 0 || options.height % 2 != 0;
+    if (format && format->even && film.encoder.empty() && odd) {
+        return std::string(format->ending) + " takes an even width and height";
+    }
+    return film_conflict(film, !options.scene.empty());
+}
+
+/// Fills in what was left open.
+void complete(RecordOptions& options, FilmFormat const* format) {
+    bool const film = options.film.Wanted();
+    if (options.width == 0) {
+        options.width = format ? format->width : film ? 1920 : 1024;
+        options.height = format ? format->height : film ? 1080 : 768;
+    }
+    if (!options.film.rate) options.film.rate = FrameRate{format ? format->rate : recorded_rate, 1};
 }
 
 } // namespace
 
-int complain(std::string const& message) {
-    std::cerr << name << ": " << message << std::endl;
-    return 1;
-}
+int complain(std::string const& message) { return complain(recorder_name, message); }
 
 std::optional<int> read_command_line(int argc, char const* const* argv, RecordOptions& options) {
-    CLI::App app("Takes pictures of Hard Silence: PNG files of its frames at given beats, drawn off-screen.", name);
+    CLI::App app("Takes pictures of Hard Silence: PNG files of its frames at given beats, drawn off-screen.",
+                 recorder_name);
     app.footer("The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it\n"
                "on which the show has counted the beat.");
     set_up(app);
     add_options(app, options);
     if (auto const status = read_arguments(app, argc, argv)) return status;
+    FilmFormat const* const format = find_format(options.film.file);
+    complete(options, format);
     if (options.list) return std::nullopt;
-    if (options.beats.empty() && !options.overview) return complain("no beats to record, see --beats");
-    if (!options.beats.empty() && options.overview) return complain("either --beats or --overview");
-    if (!options.scene.empty() && options.overview) return complain("either --scene or --overview");
-    if (options.folder.empty() && options.sheet.empty()) return complain("nowhere to write to, see --out and --sheet");
-    return std::nullopt;
+    std::string const fault = options.film.Wanted() ? film_fault(options, format) : picture_fault(options);
+    return fault.empty() ? std::nullopt : std::optional(complain(fault));
 }

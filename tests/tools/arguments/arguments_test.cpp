@@ -20,7 +20,7 @@ Outcome read(std::vector<char const*> const& arguments) {
     set_up(app);
     auto const keep = [&](std::string const& value) {
         outcome.values.push_back(value);
-        return value != "wrong";
+        return !value.starts_with("wrong");
     };
     add_value(app, "--value", "TEXT", keep, "a right one", "Anything but one text");
     std::vector<char const*> argv = {"/bin/of/another/name"};
@@ -49,10 +49,13 @@ TEST(Arguments, ReachTheirReaderAsTheyAre) {
 }
 
 TEST(Arguments, AFaultIsOneLineOnStandardErrorAndStatusOne) {
+    std::string const long_value(1000, 'x');
     std::pair<std::vector<char const*>, std::string> const cases[] = {
         {{"--value", "wrong"}, "--value: 'wrong' is not a right one"},
         {{"--value"}, "--value: 1 required TEXT missing"},
         {{"--fast"}, "The following argument was not expected: --fast"},
+        {{"--value", "wrong\nlines"}, "--value: 'wrong\\x0alines' is not a right one"},
+        {{long_value.c_str()}, "The following argument was not expected: " + std::string(156, 'x') + "..."},
         {{"file"}, "The following argument was not expected: file"},
     };
     for (auto const& [arguments, line] : cases) {

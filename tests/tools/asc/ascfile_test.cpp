@@ -88,8 +88,7 @@ TEST(AscParse, NamesTheLineOfEveryDepartureFromTheLayout) {
          "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
         {replaced(triangle_text, "X:1.5", "X:1,5"), 5,
          "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
-        {replaced(triangle_text, "X:1.5", "X:nan"), 5,
-         "expected vertex 1 with X, Y and Z; the header's counts may be wrong"},
+        {replaced(triangle_text, "X:1.5", "X:nan"), 5, "a coordinate is not a number from -1000000 to 1000000"},
         {replaced(triangle_text, "C:2", "C:3"), 8, "vertex index 3 is out of range: there are 3"},
         {replaced(triangle_text, "C:2", "C:-1"), 8, "vertex index -1 is out of range: there are 3"},
         {replaced(triangle_text, "CA:1", "CA:2"), 8, "edge flag 2 is neither 0 nor 1"},
@@ -117,6 +116,20 @@ TEST(AscParse, GoesOnWithTheNextObjectAfterAFault) {
     EXPECT_EQ(file.faults.size(), 1U);
     ASSERT_EQ(file.objects.size(), 1U);
     EXPECT_EQ(file.objects[0].object.name, "good");
+}
+
+TEST(AscParse, EndsAtItsLimits) {
+    asc::ReadFile const feeds = asc::parse(std::string(100000, '\n'));
+    EXPECT_EQ(feeds.faults.size(), 1001U);
+    EXPECT_EQ(feeds.faults.back().text, "too many faults; the rest is not read");
+    std::vector<asc::Object> objects;
+    for (int i = 0; i < 10001; ++i) objects.push_back(triangle("o" + std::to_string(i)));
+    asc::ReadFile const many = asc::parse(asc::write(objects));
+    EXPECT_EQ(many.objects.size(), 10000U);
+    ASSERT_EQ(many.faults.size(), 1U);
+    EXPECT_EQ(many.faults[0].text, "more than 10000 objects");
+    objects.pop_back();
+    EXPECT_TRUE(asc::parse(asc::write(objects)).faults.empty());
 }
 
 TEST(AscParse, SurvivesEveryCutAndEveryBrokenByteOfAFile) {

@@ -1,6 +1,7 @@
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"
+#include "runtime/playback.h"
 #include "tests/show/scores.h"
 
 #include <gmock/gmock.h>
@@ -20,23 +21,36 @@ TEST(Beats, AreReadAsRangesThatLeaveTheEndOut) {
 
 TEST(Beats, AreTakenOnceOnly) { EXPECT_THAT(parse_beats("1,2,1.0,0:3:1").value(), ElementsAre(1000, 2000, 0)); }
 
-TEST(Beats, AreCutToThreePlacesWithoutLosingAnyToBinaryFractions) {
-    EXPECT_THAT(parse_beats("1.9999").value(), ElementsAre(1999));
+TEST(Beats, AreThousandthsWithoutLosingAnyToBinaryFractions) {
+    EXPECT_THAT(parse_beats("1.2500000000,1:1.002:0.0010").value(), ElementsAre(1250, 1000, 1001));
     for (Millibeats at = 0; at < scores::show_beats * one_beat; ++at) {
         ASSERT_THAT(parse_beats(padded_beat(at)).value(), ElementsAre(at));
     }
 }
 
 TEST(Beats, RefuseEverythingElse) {
-    char const* const cases[] = {
-        "",      ",",     "1,",   ",1",   "x",     "1;2",         "-1",   "-0",        "inf",
-        "+1",    "1.2.3", ".",    "1e3",  "1 ",    "nan",         "0:1",  "0:1:0.5:2", "0:1:0",
-        "2:1:1", "1:1:1", "0::1", ":1:1", "0:x:1", "0:999:0.001", "1000", "0x10",      "99999999999999999999"};
+    char const* const cases[] = {"",           ",",          "1,",
+                                 ",1",         "x",          "1;2",
+                                 "-1",         "-0",         "inf",
+                                 "+1",         "1.2.3",      ".",
+                                 "1e3",        "1 ",         "nan",
+                                 "0:1",        "0:1:0.5:2",  "0:1:0",
+                                 "2:1:1",      "1:1:1",      "0::1",
+                                 ":1:1",       "0:x:1",      "1.9999",
+                                 "0:1:0.0005", "0:1:0.0015", "1.00000000001",
+                                 "1000",       "0x10",       "99999999999999999999"};
     EXPECT_FALSE(parse_beats(std::string(1000, '9')).has_value());
     for (char const* const text : cases) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(parse_beats(text).has_value());
     }
+}
+
+TEST(Beats, AreAsManyAsThereAre) {
+    std::string const all = "0:999:0.001";
+    EXPECT_EQ(parse_beats(all).value().size(), 999000u);
+    EXPECT_EQ(parse_beats(all + ",999").value().size(), 999001u);
+    EXPECT_FALSE(parse_beats(all + "," + all).has_value()) << "the same again takes as long";
 }
 
 TEST(Beats, AreWrittenForFilesAndForPeople) {
@@ -91,4 +105,28 @@ TEST(Beats, AreCountedByTheShowsOwnClockOnThatFrame) {
         ASSERT_LT(frame, frame_at(next)) << "counted too late";
     }
     EXPECT_EQ(state.beat_count, scores::show_beats);
+}
+
+TEST(Beats, AreCountedByTheShowsOwnClockAtEveryRate) {
+    for (FrameRate const rate : {FrameRate{24000, 1001}, FrameRate{24}, FrameRate{25}, FrameRate{30}, FrameRate{50},
+                                 FrameRate{60000, 1001}, FrameRate{60}, FrameRate{144}, FrameRate{240}}) {
+        SCOPED_TRACE(rate.Text());
+        FrameGrid const grid(rate);
+        BeatClock clock(beat2seconds(beats_per_minute, 4));
+        kore::StateData state;
+        for (int frame = 0; frame <= grid.FrameAt(scores::show_beats * one_beat); ++frame) {
+            state.time = frame_time(frame, rate.PerSecond());
+            clock.Count(state);
+            ASSERT_GE(frame, grid.FrameAt(state.beat_count * one_beat)) << "counted too early";
+            ASSERT_LT(frame, grid.FrameAt((state.beat_count + 1) * one_beat)) << "counted too late";
+        }
+        EXPECT_EQ(state.beat_count, scores::show_beats);
+    }
+}
+
+TEST(Beats, LieOnTheFramesOfTheRate) {
+    EXPECT_EQ(FrameGrid({30}).FrameAt(11000), 150);
+    EXPECT_EQ(FrameGrid({24}).FrameAt(1000), 11) << "10.9 frames";
+    EXPECT_EQ(FrameGrid({60000, 1001}).FrameAt(11000), 300) << "299.7 frames";
+    EXPECT_EQ(FrameGrid({60}).FrameAt(55000), frame_at(55000));
 }

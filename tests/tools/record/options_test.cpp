@@ -1,34 +1,9 @@
-#include "tools/record/options.h"
+#include "tests/tools/record/readoptions.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-namespace {
-
-struct Outcome {
-    RecordOptions options;
-    std::optional<int> status;
-    std::string out;
-    std::string error;
-};
-
-Outcome read(std::vector<char const*> const& arguments) {
-    constexpr std::size_t most = 20;
-    char const* argv[most] = {"hardsilence-record"};
-    std::copy(arguments.begin(), arguments.end(), argv + 1);
-    Outcome outcome;
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    outcome.status = read_command_line(static_cast<int>(arguments.size()) + 1, argv, outcome.options);
-    outcome.out = testing::internal::GetCapturedStdout();
-    outcome.error = testing::internal::GetCapturedStderr();
-    return outcome;
-}
-
-} // namespace
 
 TEST(RecordOptions, HaveDefaults) {
     Outcome const outcome = read({"--beats", "1", "--out", "pictures"});
@@ -48,7 +23,7 @@ TEST(RecordOptions, HaveDefaults) {
 
 TEST(RecordOptions, AreAllRead) {
     Outcome const outcome = read({"--beats", "1,2", "--sheet", "s.png", "--scene", "wire", "--size", "64x48",
-                                  "--samples", "0", "--columns", "3", "--no-wire", "--calm", "--frames"});
+                                  "--samples", "0", "--columns", "3", "--no-wire", "--calm", "--frame-after"});
     EXPECT_FALSE(outcome.status.has_value());
     RecordOptions const& options = outcome.options;
     EXPECT_THAT(options.beats, ElementsAre(1000, 2000));
@@ -74,12 +49,13 @@ TEST(RecordOptions, ListNeedsNothingElse) {
 }
 
 TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
-    std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5";
+    std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths";
+    std::string const no_picture = "no beats to record, see --beats; nor a film, see --film";
     std::string const no_size = " is not a size such as 1024x768, up to 8192x8192";
     // clang-format off
     std::pair<std::vector<char const*>, std::string> const cases[] = {
-        {{},                          "no beats to record, see --beats"},
-        {{"--out", "x"},              "no beats to record, see --beats"},
+        {{},                          no_picture},
+        {{"--out", "x"},              no_picture},
         {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"},
         {{"--overview", "--beats", "1"}, "either --beats or --overview"},
         {{"--overview", "--scene", "x"}, "either --scene or --overview"},
@@ -90,8 +66,13 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--beats", "1", "--out"},   "--out: 1 required DIR missing"},
         {{"--beats", "1,,2"},         "--beats: '1,,2'" + no_beats},
         {{"--beats", "4:1:1"},        "--beats: '4:1:1'" + no_beats},
+        {{"--beats", "0:1:0.0005"},   "--beats: '0:1:0.0005'" + no_beats},
+        {{"--beats", "1.0000"
+                     "0000000000000000000000000000000000000000000000000000000000000001"},
+                                      "--beats: '1." + std::string(55, '0') + "...'" + no_beats},
         {{"--out", ""},               "--out: '' is not a path"},
-        {{"--sheet", ""},             "--sheet: '' is not a path"},
+        {{"--sheet", ""},             "--sheet: '' is not a path that ends in .png"},
+        {{"--sheet", "a.jpg"},        "--sheet: 'a.jpg' is not a path that ends in .png"},
         {{"--scene", ""},             "--scene: '' is not a scene's name; --list shows them"},
         {{"--size", "1024"},          "--size: '1024'" + no_size},
         {{"--size", "1024x"},         "--size: '1024x'" + no_size},
@@ -125,7 +106,7 @@ TEST(RecordOptions, HelpNamesEveryOption) {
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.error, "");
         for (char const* const name :
-             {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frames", "--size WxH", "--samples N",
+             {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frame-after", "--size WxH", "--samples N",
               "--columns N", "--overview", "--wire", "--no-wire", "--list"}) {
             EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + name));
         }

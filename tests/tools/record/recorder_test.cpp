@@ -5,6 +5,7 @@
 #include "tests/support/images.h"
 #include "tests/support/temp.h"
 
+#include <chrono>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <iomanip>
@@ -33,8 +34,10 @@ std::string padded(double beats) {
 /// Runs the program in an empty folder of its own.
 class Recorder : public testing::Test {
 protected:
-    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {}) const {
-        return support::run_shell("'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
+    /// @param before  of the shell, in front of the program
+    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {},
+                   std::string const& before = "") const {
+        return support::run_shell(before + "'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
                                   {.folder = folder.Path(""), .environment = environment});
     }
 
@@ -46,7 +49,7 @@ protected:
 } // namespace
 
 TEST_F(Recorder, WritesPicturesNamedByBeatIntoAFolderOfTheCaller) {
-    Outcome const outcome = Record("--beats 12.4,0.5 --frames --size 64x48 --out a/b");
+    Outcome const outcome = Record("--beats 12.4,0.5 --frame-after --size 64x48 --out a/b");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.error, "");
     EXPECT_EQ(outcome.output, In("a/b/beat_000.500.png") + "\n" + In("a/b/beat_000.500b.png") + "\n" +
@@ -69,7 +72,7 @@ TEST_F(Recorder, CountsFromTheFirstBeatOfAScene) {
 }
 
 TEST_F(Recorder, DrawsTheSamePixelsOnEveryRun) {
-    std::string const beats = "--beats 0.5,12.4,17.5,68.1,168.2,184.5,256,325,353.5 --frames --size 256x192 ";
+    std::string const beats = "--beats 0.5,12.4,17.5,68.1,168.2,184.5,256,325,353.5 --frame-after --size 256x192 ";
     ASSERT_EQ(Record(beats + "--out first --sheet first/sheet.png").status, 0);
     ASSERT_EQ(Record(beats + "--out second --sheet second/sheet.png").status, 0);
     int count = 0;
@@ -170,18 +173,18 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     std::string const length = std::to_string(first.length);
     std::string const past_the_end = " lies past the last frame of the show, which has " + beats + " beats";
     std::pair<std::string, std::string> const cases[] = {
-        {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5"},
+        {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths"},
         {"--beats 1 --out . --scene Finale", "no scene is called 'Finale'; there are " + names()},
         {"--beats " + beats + " --out .", "beat " + beats + past_the_end},
         {"--beats " + last + ".99 --out .", "beat " + last + ".99" + past_the_end},
-        {"--beats " + last + ".95 --frames --out .", "beat " + last + ".95" + past_the_end},
+        {"--beats " + last + ".95 --frame-after --out .", "beat " + last + ".95" + past_the_end},
         {"--beats 1," + length + " --scene " + running_order()[0].name + " --out .",
          "beat " + length + " lies past the last frame of " + first.title + ", which has " + length + " beats"},
         {"--beats 1 --out file", "cannot make the folder " + In("file") + ": Not a directory"},
         {"--beats 1 --out file/deeper", "cannot make the folder " + In("file/deeper") + ": Not a directory"},
-        {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png"},
-        {"--beats 1 --size 16x12 --sheet .", "cannot write " + In("")},
-        {"--beats 1 --size 16x12 --sheet a.unknown", "cannot write " + In("a.unknown")},
+        {"--beats 1 --size 16x12 --out /proc", "cannot write /proc/beat_001.000.png: No such file or directory"},
+        {"--beats 1 --sheet .", "--sheet: '.' is not a path that ends in .png"},
+        {"--beats 1 --sheet a.jpg", "--sheet: 'a.jpg' is not a path that ends in .png"},
     };
     for (auto const& [arguments, line] : cases) {
         SCOPED_TRACE(arguments);
@@ -192,6 +195,69 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     }
     for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
         EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
+    }
+}
+
+TEST_F(Recorder, NeverLeavesHalfAPictureNorTakesAnOldOne) {
+    folder.Write("beat_001.000.png", "old");
+    folder.Write("sheet.png", "old");
+    for (char const* const where : {"--out .", "--sheet sheet.png"}) {
+        Outcome const outcome = Record("--beats 1 --size 256x192 " + std::string(where), {}, "ulimit -f 1; ");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(
+            outcome.error,
+            testing::MatchesRegex("hardsilence-record: cannot write .*/(beat_001.000|sheet).png: File too large\n"));
+        EXPECT_EQ(outcome.output, "") << "no path of a file that is not there";
+    }
+    EXPECT_TRUE(read_all(In("beat_001.000.png")) + read_all(In("sheet.png")) == "oldold");
+    EXPECT_EQ(std::distance(fs::directory_iterator(In("")), {}), 2);
+}
+
+TEST_F(Recorder, RefusesATooLargeSheetAtOnce) {
+    struct {
+        char const* arguments;
+        char const* size;
+    } const rows[] = {
+        {"--beats 0:42:0.1 --size 320x8192 --samples 0 --columns 1", "328x3451564"},
+        {"--beats 0:383:0.001 --size 1024x768 --samples 0", "1304x16698804"},
+        {"--beats 0:40:0.01 --size 300x1000 --columns 100", "30404x41044"},
+    };
+    for (auto const& row : rows) {
+        auto const start = std::chrono::steady_clock::now();
+        Outcome const outcome = Record(row.arguments + std::string(" --sheet s.png"));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+        EXPECT_EQ(outcome.status, 1) << row.arguments;
+        EXPECT_EQ(outcome.error, "hardsilence-record: the sheet would have " + std::string(row.size) +
+                                     " pixels; no side may have more than 65535, nor all of it more than 67108864\n");
+    }
+}
+
+TEST_F(Recorder, NeedsItsWorkingFolderForRelativePathsOnly) {
+    fs::create_directory(In("gone"));
+    std::string const leave = "cd gone && rmdir ../gone && ";
+    Outcome outcome = Record("--beats 1 --size 16x12 --out a", {}, leave);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.error, "hardsilence-record: cannot tell the working folder: No such file or directory\n");
+    fs::create_directory(In("gone"));
+    outcome = Record("--beats 1 --size 16x12 --out '" + In("a") + "'", {}, leave);
+    EXPECT_EQ(outcome.status, 0) << outcome.error;
+    EXPECT_EQ(outcome.output, In("a/beat_001.000.png") + "\n");
+}
+
+TEST_F(Recorder, WritesNamesOutThatWouldSteerATerminal) {
+    folder.Write("file", "");
+    Outcome const outcome = Record("--beats 1 --out \"$(printf 'file/a\\033[31m\\nb')\"");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.error,
+              "hardsilence-record: cannot make the folder " + In("file/a\\x1b[31m\\x0ab") + ": Not a directory\n");
+}
+
+TEST_F(Recorder, FailsWhereItsOutputDoes) {
+    for (char const* const arguments : {"--help", "--version", "--list", "--beats 1 --size 16x12 --out ."}) {
+        Outcome const outcome = Record(arguments + std::string(" > /dev/full"));
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_THAT(outcome.error, testing::StartsWith("hardsilence-record: cannot write to standard output"));
+        EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1);
     }
 }
 

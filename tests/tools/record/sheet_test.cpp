@@ -58,3 +58,19 @@ TEST(Sheet, IsNoWiderThanItsPictures) {
     std::vector<SheetCell> const cells = {{plain_image(40, 30, sf::Color::Red), ""}};
     EXPECT_EQ(make_sheet(cells, 100).getSize().x, 48u);
 }
+
+TEST(Sheet, TellsItsSizeInAdvance) {
+    struct {
+        unsigned int count, columns;
+        sf::Vector2u picture;
+    } const rows[] = {{1, 5, {40, 30}}, {7, 3, {640, 480}}, {3, 3, {1000, 7}}, {2, 1, {320, 1}}};
+    for (auto const& [count, columns, picture] : rows) {
+        SheetCell const cell{shrink_for_sheet(plain_image(picture.x, picture.y)), "x"};
+        sf::Vector2u const made = make_sheet(std::vector<SheetCell>(count, cell), columns).getSize();
+        PictureSize const told = sheet_size(count, columns, picture);
+        EXPECT_EQ(told.width, made.x);
+        EXPECT_EQ(told.height, made.y);
+    }
+    PictureSize const huge = sheet_size(2000000000, 1, {320, 8192});
+    EXPECT_EQ(huge.height, 4 + 2000000000u * (8192ull + 4 + 18 + 4));
+}

@@ -1,0 +1,94 @@
+#include "show/datacheck.h"
+
+#include "kore/ascfile.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <set>
+#include <system_error>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+MeshFile plain(char const* name, char const* object) { return {name, {object}, false}; }
+MeshFile shattered(char const* name, char const* object) { return {name, {object}, true}; }
+
+/// @return "", or why the file is not read at all
+std::string refuse_file(std::string const& path) {
+    std::error_code error;
+    fs::file_status const status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) return path + " is missing";
+    if (error) return path + " cannot be read: " + error.message();
+    if (!fs::is_regular_file(status)) return path + " is not a regular file";
+    if (fs::file_size(path, error) > kore::max_mesh_file) {
+        return path + " has more than " + std::to_string(kore::max_mesh_file >> 20) + " MiB";
+    }
+    if (access(path.c_str(), R_OK) != 0) return path + " cannot be read: " + std::generic_category().message(errno);
+    return "";
+}
+
+/// @return "", or what is wrong with the file
+std::string refuse_content(MeshFile const& mesh, std::string const& path) {
+    kore::AscFile file;
+    if (!file.Open(path)) return path + " cannot be read";
+    std::set<std::string> names;
+    for (;;) {
+        kore::AscFile::Result const result = file.Next();
+        if (result == kore::AscFile::Result::End) break;
+        if (result == kore::AscFile::Result::Fault) return path + ": " + file.GetFault();
+        if (mesh.shattered && file.GetFaceCount() > kore::max_object_faces_full) {
+            return path + " has an object of more than " + std::to_string(kore::max_object_faces_full) +
+                   " faces, too many to be shattered";
+        }
+        names.insert(file.GetName());
+    }
+    for (char const* object : mesh.objects) {
+        if (!names.contains(object)) return path + " holds no object '" + object + "'";
+    }
+    return "";
+}
+
+} // namespace
+
+std::span<MeshFile const> mesh_files() {
+    static MeshFile const files[] = {
+        {"weknow.asc", {"We", "Know", "What", "Are", "Doing", "QUILLONx"}, false},
+        {"greetings.asc",
+         {"Arbalest", "Pixelherds", "Lanternfly", "Mirevolt", "Quartzine", "Tundrabeat", "Obelisk_K", "Heavy_Cart"},
+         false},
+        plain("HARD-title.asc", "HARD-title"),
+        plain("QUILLONx-title.asc", "QUILLONx-title"),
+        plain("SILENCE-title.asc", "SILENCE-title"),
+        plain("butt_silhouette.asc", "butt_silhouette"),
+        plain("credits.asc", "credits"),
+        plain("donut2.asc", "donut2"),
+        plain("frameicosahedron.asc", "frameicosahedron"),
+        plain("gun_silhouette.asc", "gun_silhouette"),
+        plain("hollowsoccerball.asc", "hollowsoccerball"),
+        plain("side2_silhouette.asc", "side2_silhouette"),
+        plain("sideview_silhouette.asc", "sideview_silhouette"),
+        plain("tentacles_silhouette.asc", "tentacles_silhouette"),
+        plain("torus2.asc", "torus2"),
+        shattered("framecube.asc", "framecube"),
+        shattered("frameoctoball.asc", "frameoctoball"),
+        shattered("frametetrahedron.asc", "frametetrahedron"),
+        shattered("glass.asc", "glass"),
+        shattered("gungirl_silhouette.asc", "gungirl_silhouette"),
+        shattered("infinity.asc", "infinity"),
+        shattered("maltanristi.asc", "maltanristi"),
+        shattered("spikeydodecahedron.asc", "spikeydodecahedron"),
+    };
+    return files;
+}
+
+std::string check_meshes() {
+    for (MeshFile const& mesh : mesh_files()) {
+        std::string const path = std::string("data/") + mesh.name;
+        std::string wrong = refuse_file(path);
+        if (wrong.empty()) wrong = refuse_content(mesh, path);
+        if (!wrong.empty()) return wrong;
+    }
+    return "";
+}

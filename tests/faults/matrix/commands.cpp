@@ -1,0 +1,99 @@
+#include "tests/faults/matrix/commands.h"
+
+#include "tests/support/command.h"
+#include "tests/window/xscreen.h"
+
+#include <algorithm>
+#include <csignal>
+#include <memory>
+#include <thread>
+#include <utility>
+
+namespace faults {
+
+namespace {
+
+XScreen& own_screen() {
+    static XScreen screen;
+    return screen;
+}
+
+/// The command in a shell that does what comes before, and then becomes the program.
+std::vector<std::string> with_shell(Command const& command) {
+    if (command.before.empty()) return command.arguments;
+    std::vector<std::string> arguments = {"/bin/sh", "-c", command.before + "; exec \"$@\"", "sh"};
+    arguments.insert(arguments.end(), command.arguments.begin(), command.arguments.end());
+    return arguments;
+}
+
+std::string what_was_said(std::string const& error, int lines, bool exactly, std::string const& says) {
+    int const count = lines_of(error);
+    if (exactly ? count != lines : count > lines) {
+        return std::to_string(count) + " lines instead of " + std::to_string(lines) + ": " + shown(error);
+    }
+    if (error.find(says) == std::string::npos) return "says " + shown(error) + " instead of " + says;
+    return "";
+}
+
+} // namespace
+
+std::string program(std::string const& name) { return HARDSILENCE_BINARY_DIR "/" + name; }
+
+int lines_of(std::string const& text) {
+    auto const ends = std::count(text.begin(), text.end(), '\n');
+    return static_cast<int>(ends) + (!text.empty() && text.back() != '\n' ? 1 : 0);
+}
+
+std::string shown(std::string const& text) {
+    constexpr std::size_t most = 600;
+    std::string line = text.substr(0, most);
+    std::replace(line.begin(), line.end(), '\n', '|');
+    return "\"" + line + (text.size() > most ? "...\"" : "\"");
+}
+
+std::string own_display() { return own_screen().Name(); }
+
+std::string end_complaint(Command const& command, End const& end) {
+    support::Outcome const outcome = support::run(
+        with_shell(command), {.folder = command.folder, .environment = command.environment, .limit = end.within});
+    int const status = outcome.signal ? 128 + outcome.signal : outcome.status;
+    if (outcome.signal == SIGKILL && std::count(end.status.begin(), end.status.end(), status) == 0) {
+        return "did not end in time: " + shown(outcome.error);
+    }
+    if (std::count(end.status.begin(), end.status.end(), status) == 0) {
+        return "status " + std::to_string(status) + ": " + shown(outcome.error);
+    }
+    if (end.prints && outcome.output != *end.prints) return "prints " + shown(outcome.output);
+    return what_was_said(outcome.error, end.lines, true, end.says);
+}
+
+std::string play_complaint(Command command, Play const& play) {
+    command.environment.push_back("DISPLAY=" + own_display());
+    Process process(with_shell(command), command.environment, command.folder);
+    if (!own_screen().FindShow()) return "no picture: " + shown(process.Error());
+    std::this_thread::sleep_for(std::chrono::milliseconds(250)); // some frames
+    if (!process.Running()) return "ended: " + shown(process.Error());
+    process.Signal(play.signal);
+    auto const status = process.Wait(at_once);
+    if (!status) return "does not end: " + shown(process.Error());
+    if (*status != play.status) return "status " + std::to_string(*status) + ": " + shown(process.Error());
+    return what_was_said(process.Error(), play.most_lines, false, play.says);
+}
+
+Cell ends(std::string name, Command command, End end) {
+    return {std::move(name),
+            [command = std::move(command), end = std::move(end)] { return end_complaint(command, end); }};
+}
+
+Cell plays(std::string name, Command command, Play play) {
+    return {std::move(name),
+            [command = std::move(command), play = std::move(play)] { return play_complaint(command, play); }};
+}
+
+std::vector<std::string> small_show(std::vector<std::string> const& more) {
+    std::vector<std::string> arguments = {show, "-w", "-width", "64", "-nofsaa", "-novsync", "-limit", "20"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return arguments;
+}
+
+} // namespace faults

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "tests/faults/matrix/matrix.h"
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Cells that run a program.
+namespace faults {
+
+/// The programs.
+std::string program(std::string const& name);
+inline std::string const show = program("hardsilence");
+
+/// How long what ends "within two seconds" may take where other tests hold the processor too.
+constexpr std::chrono::milliseconds at_once{6000};
+
+/// How a program is run.
+struct Command {
+    std::vector<std::string> arguments;        ///< the program first
+    std::string before = {};                   ///< what sh does first in the process that becomes the program
+    std::vector<std::string> environment = {}; ///< changes: NAME=value sets, NAME alone removes
+    std::string folder = {};                   ///< working directory; "" for this one
+};
+
+/// How a program must end.
+struct End {
+    std::vector<int> status = {1};          ///< any of these; 128 + signal where one ends it
+    int lines = 1;                          ///< on standard error, exactly
+    std::string says = {};                  ///< in one of them
+    std::optional<std::string> prints = {}; ///< on standard output: all of it
+    std::chrono::milliseconds within = at_once;
+};
+
+/// Runs the command to its end.
+/// @return "" if it ends like that; else what is wrong
+std::string end_complaint(Command const& command, End const& end);
+
+Cell ends(std::string name, Command command, End end = {});
+
+/// How a show must play.
+struct Play {
+    int most_lines = 0;    ///< on standard error
+    std::string says = {}; ///< in one of them
+    int signal = 15;       ///< that ends it
+    int status = 0;        ///< that it ends with
+};
+
+/// Runs the show on a screen of the worker's own until its window is there and it has drawn for a moment, and ends it.
+/// @return "" if it plays like that; else what is wrong
+std::string play_complaint(Command command, Play const& play);
+
+Cell plays(std::string name, Command command, Play play = {});
+
+/// Options for a show that takes little of the processor.
+std::vector<std::string> small_show(std::vector<std::string> const& more = {"-mute"});
+
+/// The screen of this worker, started when it is first asked for.
+std::string own_display();
+
+/// @return how many lines a text has; one without an end counts
+int lines_of(std::string const& text);
+
+/// @return the text in one line, shortened
+std::string shown(std::string const& text);
+
+} // namespace faults
