@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <csignal>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <thread>
@@ -85,6 +86,12 @@ int Production::Run() {
     auto const planned = renderers.Plan();
     if (!planned) return renderers.FailedStatus();
     plan = *planned;
+    if (my_options.film.plan) {
+        EncoderTask task = encoder_task(my_options, plan, my_music);
+        if (!task.music.empty()) task.music = std::filesystem::absolute(task.music).string();
+        std::cout << encoder_script(task, std::filesystem::current_path().string());
+        return 0;
+    }
     std::string error = Open();
     if (error.empty()) error = MakeFrames();
     if (renderer_failed) return renderers.FailedStatus();
