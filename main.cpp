@@ -4,19 +4,24 @@
 #include "kore/reportedplaces.h"
 #include "runtime/awakescreen.h"
 #include "runtime/datafolder.h"
-#include "runtime/display.h"
+#include "runtime/deadline.h"
 #include "runtime/environment.h"
 #include "runtime/frame.h"
+#include "runtime/modekeeper.h"
 #include "runtime/opening.h"
+#include "runtime/resources.h"
 #include "runtime/stepper.h"
 #include "runtime/stopsignal.h"
+#include "runtime/streams.h"
 #include "runtime/timing.h"
 #include "show/datacheck.h"
 #include "show/show.h"
 
 #include <GL/gl.h>
+#include <exception>
 #include <iostream>
 #include <optional>
+#include <unistd.h>
 #include <utility>
 
 bool quit = false;
@@ -26,6 +31,7 @@ namespace {
 constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
 constexpr int last_beat = 9998;        // safety stop
+bool sound_hangs = false;              // at the end of the show
 
 struct HeldKey {
     sf::Keyboard::Key key;
@@ -199,8 +205,10 @@ void run_show(sf::Window& window, Settings const& settings, DesktopWindow* deskt
         timing.Shown();
         if (show_over(stepper.State().beat_count, demo)) break;
     }
+    deadline::set_for_the_end();
     music->Pause();
     if (fps_counter && settings.pace) timing.Report();
+    sound_hangs = player->Hangs();
 }
 
 namespace {
@@ -212,30 +220,32 @@ bool data_is_good() {
     return wrong.empty();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    if (auto const status = read_command_line(argc, argv)) return *status;
+int play(DroppingStreams& streams) {
     if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
         std::cerr << missing << std::endl;
         return 1;
     }
     auto const settings = settings_from_environment();
-    if (!settings || (settings->check && !data_is_good()) || !window_possible()) return 1;
+    if (!settings || !enough_resources()) return 1;
+    if ((settings->check && !data_is_good()) || !window_possible()) return 1;
     auto const monitors = find_monitors();
     if (settings->list_monitors) {
         print_monitors(monitors);
         return 0;
     }
     auto const monitor = choose_monitor(*settings, monitors);
-    if (!monitor) return 1;
+    if (!monitor || !opengl_possible()) return 1;
     see_to_full_screen(*settings);
+    std::optional<ModeKeeper> keeper;
+    if (video_fullscreen == sf::Style::Fullscreen && !settings->desktop) keeper.emplace();
     catch_stop_signals();
-    end_quietly_when_display_is_lost();
     effect::look = look_from_environment();
 
+    LibraryWords words;
     sf::Window window; // not a render window: that one makes OpenGL calls of its own in every frame
     auto desktop = open_window(window, *settings, *monitor);
+    words.Release();
+    deadline::clear();
     std::optional<AwakeScreen> awake;
     if (desktop) {
         awake.emplace();
@@ -244,6 +254,23 @@ int main(int argc, char** argv) {
     init_gl();
     window.setVerticalSyncEnabled(vsync);
     window.setFramerateLimit(settings->pace ? 0 : frame_limit());
+    streams.BeImpatient();
     run_show(window, *settings, desktop ? &*desktop : nullptr);
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    open_missing_streams();
+    DroppingStreams streams;
+    if (auto const status = read_command_line(argc, argv)) return *status;
+    try {
+        int const status = play(streams);
+        if (sound_hangs) _exit(status); // whoever waits for that waits long
+        return status;
+    } catch (std::exception const& error) {
+        std::cerr << "The computer lacks something that the show needs: " << error.what() << std::endl;
+        return 1;
+    }
 }

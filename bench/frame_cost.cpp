@@ -1,8 +1,10 @@
-// What the show costs besides OpenGL: plays it on an OpenGL that does nothing. Prints how long its construction and the
-// frames of every scene take. Under callgrind the instructions are dumped per scene.
+// What the show costs besides OpenGL: plays it on an OpenGL that does nothing, or, built as layer_cost, on the layer of
+// web/gl and a driver that does nothing. Prints how long its construction and the frames of every scene take. Under
+// callgrind the instructions are dumped per scene.
 //
 // usage: frame_cost [EVERY]     EVERY: measure only one of so many frames (1)
 
+#include "bench/nothing.h"
 #include "bench/showrun.h"
 
 #include <chrono>
@@ -30,6 +32,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: frame_cost [EVERY]\n");
         return 2;
     }
+    nothing::open();
     std::optional<bench::ShowRun> opened;
     double const construction = microseconds([&] { opened.emplace(); });
     bench::ShowRun& show = *opened;
@@ -43,10 +46,14 @@ int main(int argc, char** argv) {
         scene = show.Scene();
         if (show.FrameNumber() % every != 0) {
             show.Frame();
+            nothing::end_frame();
             continue;
         }
         CALLGRIND_TOGGLE_COLLECT;
-        took[scene] += microseconds([&] { show.Frame(); });
+        took[scene] += microseconds([&] {
+            show.Frame();
+            nothing::end_frame();
+        });
         CALLGRIND_TOGGLE_COLLECT;
         ++frames[scene];
     }

@@ -1,7 +1,7 @@
 #include "kore/music-sfml.h"
 
 #include "kore/reportedplaces.h"
-#include "kore/sounddevice.h"
+#include "kore/soundtrackfile.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>
 #include <SFML/Audio/Music.hpp>
@@ -10,34 +10,25 @@
 
 namespace kore {
 
-MusicSFML::MusicSFML() {
-    if (sound_device_available()) {
-        stream = std::make_unique<sf::Music>();
-    } else {
-        std::cerr << "No sound device; the show is silent." << std::endl;
-    }
-}
+namespace {
 
-MusicSFML::~MusicSFML() { Cleanup(); }
-
-bool MusicSFML::Open(std::string const& file, unsigned int& rate) {
-    if (stream) {
-        playable = stream->openFromFile(file);
-        if (playable) rate = stream->getSampleRate();
-        return playable;
-    }
+/// @return of the file, Hz; 0 where it cannot be opened
+unsigned int rate_of(std::string const& file) {
     sf::InputSoundFile sound;
-    if (!sound.openFromFile(file)) return false;
-    rate = sound.getSampleRate();
-    return true;
+    return may_be_soundtrack(file) && sound.openFromFile(file) ? sound.getSampleRate() : 0;
 }
+
+} // namespace
 
 bool MusicSFML::LoadFromFile(std::string const& file, int const& frequency) {
-    unsigned int rate = 0;
-    if (!Open(file, rate)) {
+    stream.reset();
+    waited = false;
+    unsigned int const rate = rate_of(file);
+    if (rate == 0) {
         report_error(places::music_not_opened, "Failed to open music from file " + file);
         return true;
     }
+    stream.emplace(file);
     if (rate != static_cast<unsigned int>(frequency)) {
         report_error(places::music_at_another_rate, "Requested frequency (" + std::to_string(frequency) +
                                                         ") differs from audio file frequency (" + std::to_string(rate) +
@@ -50,17 +41,25 @@ bool MusicSFML::LoadFromFile(std::string const& file, int const& frequency) {
 void MusicSFML::SetVisualizer(std::shared_ptr<MusicVisualizer> v) { visualizer = std::move(v); }
 
 void MusicSFML::Play() {
-    if (playable) stream->play();
+    if (stream && !waited) {
+        waited = true;
+        auto const result = stream->Wait();
+        if (result == SoundStream::Result::NoDevice) std::cerr << "No sound device; the show is silent." << std::endl;
+        if (result == SoundStream::Result::NoAnswer) {
+            std::cerr << "The sound device does not answer; the show is silent." << std::endl;
+        }
+    }
+    if (Stream()) Stream()->play();
 }
 
 void MusicSFML::Pause() {
-    if (playable) stream->pause();
+    if (Stream()) Stream()->pause();
 }
 
 void MusicSFML::Cleanup() { visualizer.reset(); }
 
-float MusicSFML::Position() const { return playable ? stream->getPlayingOffset().asSeconds() : 0.0f; }
+float MusicSFML::Position() const { return Stream() ? Stream()->getPlayingOffset().asSeconds() : 0.0f; }
 
-bool MusicSFML::Playing() const { return playable && stream->getStatus() == sf::SoundSource::Playing; }
+bool MusicSFML::Playing() const { return Stream() && Stream()->getStatus() == sf::SoundSource::Playing; }
 
 } // namespace kore

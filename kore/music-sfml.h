@@ -1,19 +1,18 @@
 #pragma once
 
 #include "kore/music.h"
+#include "kore/soundstream.h"
 
-namespace sf {
-class Music;
-}
+#include <optional>
 
 namespace kore {
 
-/// Streams the music with SFML, on a thread of the library's own. Without a sound device it checks the file and remains
-/// silent.
+/// Streams the music with SFML, on a thread of the library's own. The device is opened once there is a file to play,
+/// meanwhile; without one, or where it does not answer within a second, the player remains silent.
 class MusicSFML final : public Music {
 public:
-    MusicSFML();
-    ~MusicSFML();
+    MusicSFML() = default;
+    ~MusicSFML() { Cleanup(); }
     MusicSFML(MusicSFML const&) = delete;
     MusicSFML& operator=(MusicSFML const&) = delete;
 
@@ -23,6 +22,7 @@ public:
     /// Deliberate: the visualizer is stored and never fed.
     void SetVisualizer(std::shared_ptr<MusicVisualizer> v) override;
 
+    /// The first call after a file was loaded waits for its stream, and says on standard error where there is none.
     void Play() override;
     void Pause() override;
 
@@ -41,13 +41,16 @@ public:
     /// Whether it is heard: neither paused, nor at its end, nor silent.
     bool Playing() const;
 
+    /// Whether the sound library does not come back: the process must then end without it.
+    bool Hangs() const { return stream && stream->Hangs(); }
+
 private:
-    /// @param rate  receives the file's sample rate, Hz
-    bool Open(std::string const& file, unsigned int& rate);
+    /// The stream that is to be heard; nullptr for none.
+    sf::Music* Stream() const { return stream ? stream->Get() : nullptr; }
 
     bool end_of_file = false;
-    std::unique_ptr<sf::Music> stream; ///< empty without a sound device
-    bool playable = false;             ///< the stream holds an open file
+    std::optional<SoundStream> stream; ///< empty without a file
+    bool waited = false;               ///< for the stream
     std::shared_ptr<MusicVisualizer> visualizer;
 };
 

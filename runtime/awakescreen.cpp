@@ -5,13 +5,14 @@
 
 #include <X11/Xlib.h>
 #include <X11/extensions/scrnsaver.h>
+#include <chrono>
 #include <systemd/sd-bus.h>
 
 namespace {
 
 constexpr char const* name = "org.freedesktop.ScreenSaver"; // of the service, and of its interface
 constexpr char const* path = "/org/freedesktop/ScreenSaver";
-constexpr std::uint64_t patience = 1000000; // microseconds that the service may take: the show waits for it
+constexpr std::uint64_t patience = 500000; // microseconds that the service may take: the show waits for it
 
 void suspend_saver(bool suspend) {
     Display* const display = display_connection();
@@ -22,9 +23,21 @@ void suspend_saver(bool suspend) {
     XFlush(display);
 }
 
+/// A bus that takes connections and never answers would be waited for much longer than a call.
+bool gets_ready(sd_bus* bus) {
+    using std::chrono::steady_clock;
+    auto const until = steady_clock::now() + std::chrono::microseconds(patience);
+    while (sd_bus_is_ready(bus) == 0) {
+        int const done = sd_bus_process(bus, nullptr);
+        if (done < 0 || steady_clock::now() > until) return false;
+        if (done == 0 && sd_bus_wait(bus, patience / 10) < 0) return false;
+    }
+    return sd_bus_is_ready(bus) > 0;
+}
+
 } // namespace
 
-void AwakeScreen::CloseBus::operator()(sd_bus* bus) const { sd_bus_flush_close_unref(bus); }
+void AwakeScreen::CloseBus::operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
 
 AwakeScreen::AwakeScreen() {
     if (AskService()) return;
@@ -45,6 +58,7 @@ bool AwakeScreen::AskService() {
     if (sd_bus_open_user(&bus) < 0) return false;
     service.reset(bus);
     sd_bus_set_method_call_timeout(bus, patience);
+    if (!gets_ready(bus)) return false;
     sd_bus_message* reply = nullptr;
     bool const granted = sd_bus_call_method(bus, name, path, name, "Inhibit", nullptr, &reply, "ss", window_title,
                                             "The show is playing") >= 0 &&

@@ -81,7 +81,9 @@ std::optional<int> read_command_line(int argc, char** argv) {
         std::string const argument = argv[i];
         if (argument == "-h" || argument == "--help") {
             std::cout << window_title << '\n' << help_text << std::flush;
-            return 0;
+            if (std::cout) return 0;
+            std::cerr << "Cannot write to standard output." << std::endl;
+            return 1;
         }
         Option const* const option = find_option(argument);
         if (!option) {

@@ -1,7 +1,10 @@
 #include "runtime/opening.h"
 
 #include "runtime/commandline.h"
+#include "runtime/crash.h"
+#include "runtime/deadline.h"
 #include "runtime/display.h"
+#include "runtime/openglcheck.h"
 #include "runtime/windowmanager.h"
 
 #include <GL/gl.h>
@@ -12,6 +15,7 @@
 namespace {
 
 constexpr int largest_window = 32767; // pixels: what the X protocol can say
+constexpr std::chrono::seconds longest_opening{5};
 
 } // namespace
 
@@ -20,8 +24,15 @@ bool window_possible() {
         std::cerr << "Cannot open a window of " << resolution_x << "x" << resolution_y << " pixels." << std::endl;
         return false;
     }
+    own_display_errors();
+    tell_a_lost_display_from_a_crash();
+    deadline::set(longest_opening, "The display does not answer.\n", 1);
     if (!display_available()) {
         std::cerr << "Cannot open the display. Is DISPLAY set, and an X server running?" << std::endl;
+        return false;
+    }
+    if (!display_deep_enough()) {
+        std::cerr << "This display has too few bits a pixel: the show takes 16, or 24 and more." << std::endl;
         return false;
     }
     if (!display_has_opengl()) {
@@ -29,6 +40,14 @@ bool window_possible() {
         return false;
     }
     return true;
+}
+
+bool opengl_possible() {
+    DriverIsAsked const asked;
+    deadline::set(longest_opening, "This display's OpenGL driver does not answer.\n", 1);
+    std::string const lacking = what_opengl_lacks();
+    if (!lacking.empty()) std::cerr << lacking << std::endl;
+    return lacking.empty();
 }
 
 std::optional<Area> choose_monitor(Settings const& settings, std::vector<Monitor> const& monitors) {

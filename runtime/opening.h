@@ -10,6 +10,10 @@
 /// @return false, after a line on standard error, where no window can be opened
 bool window_possible();
 
+/// Asks the display's OpenGL, with a context apart from the show's own.
+/// @return false, after a line on standard error, where the show cannot be drawn
+bool opengl_possible();
+
 /// @return where the monitor that the settings name lies on the desktop; nothing, after a line on standard error, if
 ///         there is none
 std::optional<Area> choose_monitor(Settings const& settings, std::vector<Monitor> const& monitors);

@@ -1,12 +1,23 @@
 #include "runtime/stopsignal.h"
 
+#include "runtime/deadline.h"
+
 #include <csignal>
 
 namespace {
 
 volatile std::sig_atomic_t stop = 0;
 
-extern "C" void request_stop(int) { stop = 1; }
+extern "C" void request_stop(int) {
+    stop = 1;
+    deadline::set_for_the_end();
+}
+
+bool is_ignored(int signal) {
+    struct sigaction action {};
+    sigaction(signal, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
 
 } // namespace
 
@@ -15,8 +26,9 @@ void catch_stop_signals() {
     action.sa_handler = request_stop;
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    for (int const signal : {SIGINT, SIGQUIT, SIGTERM}) sigaction(signal, &action, nullptr);
+    if (!is_ignored(SIGHUP)) sigaction(SIGHUP, &action, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 bool stop_requested() { return stop != 0; }

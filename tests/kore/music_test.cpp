@@ -2,41 +2,16 @@
 
 #include "kore/music-sfml.h"
 #include "kore/musicvisualizer.h"
-#include "kore/sounddevice.h"
+#include "tests/support/sounddevice.h"
 #include "tests/support/temp.h"
+#include "tests/support/wave.h"
 
 #include <chrono>
-#include <cstdint>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <thread>
 
 namespace {
-
-/// A RIFF WAVE file of one silent 16-bit channel.
-std::string wave(std::uint32_t rate, std::uint32_t samples) {
-    std::string bytes;
-    auto const u32 = [&](std::uint32_t n) {
-        for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(n >> shift & 255);
-    };
-    auto const u16 = [&](std::uint32_t n) {
-        for (int shift = 0; shift < 16; shift += 8) bytes += static_cast<char>(n >> shift & 255);
-    };
-    bytes += "RIFF";
-    u32(36 + samples * 2);
-    bytes += "WAVEfmt ";
-    u32(16);
-    u16(1); // PCM
-    u16(1); // channels
-    u32(rate);
-    u32(rate * 2);
-    u16(2);
-    u16(16);
-    bytes += "data";
-    u32(samples * 2);
-    return bytes + std::string(std::size_t{samples} * 2, '\0');
-}
 
 constexpr int expected_rate = 48000;
 
@@ -57,7 +32,7 @@ protected:
 };
 
 TEST_F(MusicSFML, PrintsNothingAboutAFileAtTheExpectedRate) {
-    EXPECT_FALSE(Load(temp.Write("a.wav", wave(48000, 4800))));
+    EXPECT_FALSE(Load(temp.Write("a.wav", support::wave(48000, 4800))));
     EXPECT_EQ(printed, "");
 }
 
@@ -72,18 +47,18 @@ TEST_F(MusicSFML, ReportsAFileThatIsNotMusic) {
 }
 
 TEST_F(MusicSFML, ReportsAnotherRateAndPlaysItAllTheSame) {
-    EXPECT_TRUE(Load(temp.Write("a.wav", wave(44100, 44100))));
+    EXPECT_TRUE(Load(temp.Write("a.wav", support::wave(44100, 44100))));
     EXPECT_EQ(printed, "E: kore/music-sfml.cpp:48, LoadFromFile() Requested frequency (48000) differs from audio file "
                        "frequency (44100).\n");
-    if (!kore::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
+    if (!support::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
     music.Play();
     Wait(250);
     EXPECT_GT(music.Position(), 0);
 }
 
 TEST_F(MusicSFML, GoesOnWhereItWasPaused) {
-    if (!kore::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
-    Load(temp.Write("a.wav", wave(48000, 10 * 48000)));
+    if (!support::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
+    Load(temp.Write("a.wav", support::wave(48000, 10 * 48000)));
     EXPECT_EQ(music.Position(), 0);
     music.Play();
     Wait(250);
@@ -104,7 +79,7 @@ TEST_F(MusicSFML, IsAlwaysReadyAndNeverAtItsEnd) {
     Load("no/such.ogg");
     EXPECT_TRUE(music.Ready());
     EXPECT_FALSE(music.Eof());
-    Load(temp.Write("short.wav", wave(48000, 480)));
+    Load(temp.Write("short.wav", support::wave(48000, 480)));
     music.Play();
     Wait(200);
     EXPECT_TRUE(music.Ready());
@@ -137,7 +112,7 @@ TEST_F(MusicSFML, HoldsOneVisualizerAndNeverFeedsIt) {
     EXPECT_EQ(first.use_count(), 2);
     music.SetVisualizer(second);
     EXPECT_EQ(first.use_count(), 1);
-    Load(temp.Write("a.wav", wave(48000, 48000)));
+    Load(temp.Write("a.wav", support::wave(48000, 48000)));
     music.Play();
     Wait(100);
     EXPECT_EQ(second->calls, 0);
@@ -145,31 +120,13 @@ TEST_F(MusicSFML, HoldsOneVisualizerAndNeverFeedsIt) {
     EXPECT_EQ(second.use_count(), 1);
 }
 
-TEST(SoundDevice, LeavesStandardErrorAsItWas) {
-    testing::internal::CaptureStderr();
-    kore::sound_device_available();
-    std::fputs("heard", stderr);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "heard");
-}
-
-TEST(SoundDevice, CanBeProbedWhereNoFileCanBeOpened) {
-    testing::internal::CaptureStderr();
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
-    rlimit const none{3, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-    kore::sound_device_available();
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
-    std::fputs("heard", stderr);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::EndsWith("heard"));
-}
-
 TEST(SoundDevice, IsReportedMissingInOneLineAndTheShowIsSilent) {
-    if (kore::sound_device_available()) GTEST_SKIP() << "there is a sound device: no_sound_test runs this without one";
+    if (support::sound_device_available())
+        GTEST_SKIP() << "there is a sound device: no_sound_test runs this without one";
     support::TempFolder const temp;
     testing::internal::CaptureStderr();
     kore::MusicSFML music;
-    EXPECT_FALSE(music.LoadFromFile(temp.Write("a.wav", wave(48000, 4800)), expected_rate));
+    EXPECT_FALSE(music.LoadFromFile(temp.Write("a.wav", support::wave(48000, 4800)), expected_rate));
     music.Play();
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     music.Pause();

@@ -2,7 +2,7 @@
 // this under ThreadSanitizer.
 
 #include "kore/music-sfml.h"
-#include "kore/sounddevice.h"
+#include "tests/support/sounddevice.h"
 #include "tests/support/temp.h"
 
 #include <SFML/Audio/OutputSoundFile.hpp>
@@ -22,7 +22,7 @@ void wait(int milliseconds) { std::this_thread::sleep_for(std::chrono::milliseco
 class MusicThread : public testing::Test {
 protected:
     void SetUp() override {
-        if (!kore::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
+        if (!support::sound_device_available()) GTEST_SKIP() << "no sound device, not even OpenAL's null output";
     }
 
     /// @return a player of that much silence

@@ -161,8 +161,13 @@ private:
         Scanner scanner(line.text);
         scanner.Word("Vertex ").Number(at).Word(":").Blanks();
         scanner.Word("X:").Number(p.x).Blanks().Word("Y:").Number(p.y).Blanks().Word("Z:").Number(p.z);
-        if (!scanner.Done() || at != index || !std::isfinite(p.x + p.y + p.z)) {
+        auto const within_range = [](double v) { return std::abs(v) <= most_coordinate; }; // not for NaN
+        if (!scanner.Done() || at != index) {
             AddFault("expected vertex " + std::to_string(index) + " with X, Y and Z; the header's counts may be wrong");
+            return false;
+        }
+        if (!within_range(p.x) || !within_range(p.y) || !within_range(p.z)) {
+            AddFault("a coordinate is not a number from -1000000 to 1000000");
             return false;
         }
         current.object.vertices.push_back(p);

@@ -17,6 +17,8 @@ namespace asc {
 
 namespace {
 
+constexpr int most_refined = 50000; ///< triangles, which takes seconds
+
 /// @return 1, the exit status after a fault
 int failed(std::string const& text) { return complain("asc", text); }
 
@@ -32,7 +34,8 @@ struct Input {
 
 Input input_of(std::string const& argument) {
     std::size_t const equals = argument.find('=');
-    if (equals == std::string::npos) return {"", argument};
+    std::error_code error;
+    if (equals == std::string::npos || std::filesystem::exists(argument, error)) return {"", argument};
     return {argument.substr(0, equals), argument.substr(equals + 1)};
 }
 
@@ -87,6 +90,17 @@ int save_sheet(std::vector<Object> const& objects, unsigned int columns, unsigne
     return error.empty() ? save_picture(draw_sheet(objects, columns, panel), out) : failed(error);
 }
 
+/// @return whether the result would replace a file that it is made of, after one error line
+bool replaces_input(std::vector<std::string> const& inputs, std::string const& out) {
+    for (std::string const& argument : inputs) {
+        std::error_code error;
+        if (!std::filesystem::equivalent(input_of(argument).path, out, error)) continue;
+        failed(out + " is read, and would be replaced; --force does it");
+        return true;
+    }
+    return false;
+}
+
 /// Turns an object as read into one for the show.
 /// @return "", or what is wrong
 std::string make_ready(Object& object, ConvertOptions const& options) {
@@ -95,6 +109,10 @@ std::string make_ready(Object& object, ConvertOptions const& options) {
     clean(object, options.weld);
     wind(object);
     if (object.faces.empty()) return "nothing is left of object '" + object.name + "'";
+    if (options.size && least_refined(object, *options.size) > most_refined) {
+        return "--refine would cut object '" + object.name + "' into more than " + std::to_string(most_refined) +
+               " triangles";
+    }
     if (options.size && !refine(object, *options.size, options.min_angle)) {
         return "the facets of object '" + object.name + "' cannot be made to fit each other";
     }
@@ -105,6 +123,7 @@ std::string make_ready(Object& object, ConvertOptions const& options) {
 } // namespace
 
 int convert(ConvertOptions const& options) {
+    if (!options.force && replaces_input(options.inputs, options.out)) return 1;
     std::vector<Object> objects;
     for (std::string const& argument : options.inputs) {
         Input const input = input_of(argument);
@@ -119,6 +138,7 @@ int convert(ConvertOptions const& options) {
 }
 
 int join(JoinOptions const& options) {
+    if (!options.force && replaces_input(options.inputs, options.out)) return 1;
     std::vector<Object> objects;
     return load_all(options.inputs, objects) ? save_objects(objects, options.out) : 1;
 }
@@ -150,6 +170,7 @@ int preview(PreviewOptions const& options) {
     }
     std::string out = options.out;
     if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
+    if (!options.force && replaces_input({options.file}, out)) return 1;
     if (!options.camera) return save_sheet(objects, 2, 380, out);
     View view = options.view;
     view.camera = *options.camera;
@@ -157,6 +178,7 @@ int preview(PreviewOptions const& options) {
 }
 
 int sheet(SheetOptions const& options) {
+    if (!options.force && replaces_input(options.files, options.out)) return 1;
     std::vector<Object> objects;
     if (!load_all(options.files, objects)) return 1;
     return save_sheet(objects, options.columns, options.panel, options.out);

@@ -9,11 +9,13 @@
 
 namespace asc {
 
-// Options of the commands; see the help text in main.cpp. An input path may follow a name: NAME=PATH.
+// Options of the commands; see the help text in main.cpp. An input path may follow a name: NAME=PATH, unless
+// there is a file called that.
 
 struct ConvertOptions {
     std::vector<std::string> inputs;
     std::string out;
+    bool force = false; ///< the result may replace a file that it is made of
     bool flat = false;
     double weld = weld_distance;
     std::optional<Vec3> centre;
@@ -24,6 +26,7 @@ struct ConvertOptions {
 struct JoinOptions {
     std::vector<std::string> inputs;
     std::string out;
+    bool force = false;
 };
 
 struct CheckOptions {
@@ -33,7 +36,8 @@ struct CheckOptions {
 
 struct PreviewOptions {
     std::string file;
-    std::string out;    ///< "" for the file's name with .png
+    std::string out; ///< "" for the file's name with .png
+    bool force = false;
     std::string object; ///< "" for all
     std::optional<Vec3> camera;
     View view; ///< its camera is not used
@@ -42,6 +46,7 @@ struct PreviewOptions {
 struct SheetOptions {
     std::vector<std::string> files;
     std::string out;
+    bool force = false;
     unsigned int columns = 5;
     unsigned int panel = 150; ///< pixels
 };

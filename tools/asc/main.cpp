@@ -6,7 +6,6 @@
 #include "tools/files/streams.h"
 
 #include <iostream>
-#include <limits>
 #include <sstream>
 
 namespace {
@@ -23,7 +22,7 @@ struct Tool {
 
 /// Three numbers between commas; a single one stands for all three.
 bool read_vector(std::string const& text, asc::Vec3& vector) {
-    constexpr double most = std::numeric_limits<double>::max();
+    constexpr double most = asc::most_coordinate;
     std::vector<double> found;
     std::istringstream parts(text + ',');
     for (std::string part; std::getline(parts, part, ',');) {
@@ -37,13 +36,17 @@ bool read_vector(std::string const& text, asc::Vec3& vector) {
 void add_vector(CLI::App& command, std::string const& name, asc::Vec3& vector, std::string const& help) {
     add_value(
         command, name, "X,Y,Z", [&](std::string const& v) { return read_vector(v, vector); },
-        "a number or three between commas", help);
+        "a number from -1000000 to 1000000, or three between commas", help);
 }
 
 void add_vector(CLI::App& command, std::string const& name, std::optional<asc::Vec3>& vector, std::string const& help) {
     add_value(
         command, name, "X,Y,Z", [&](std::string const& v) { return read_vector(v, vector.emplace()); },
-        "a number or three between commas", help);
+        "a number from -1000000 to 1000000, or three between commas", help);
+}
+
+void add_force(CLI::App& command, bool& force) {
+    command.add_flag("--force", force, "Even if that replaces a file that is read");
 }
 
 CLI::Option* add_picture(CLI::App& command, std::string& path, std::string const& help) {
@@ -61,6 +64,7 @@ void add_convert(CLI::App& app, Tool& tool) {
         ->type_name("")
         ->required();
     command.add_option("-o", options.out, "The mesh file")->type_name("OUT.asc")->required();
+    add_force(command, options.force);
     command.add_flag("--flat", options.flat, "Keep only the lowest plane of a thin extrusion");
     auto const weld = [&](std::string const& v) { return read_number(v, 1e-6, 1e3, options.weld); };
     add_value(command, "--weld", "DISTANCE", weld, "a number from 0.000001 to 1000",
@@ -80,6 +84,7 @@ void add_join(CLI::App& app, Tool& tool) {
         ->type_name("")
         ->required();
     command.add_option("-o", tool.join.out, "The mesh file")->type_name("OUT.asc")->required();
+    add_force(command, tool.join.force);
     command.callback([&] { tool.status = asc::join(tool.join); });
 }
 
@@ -99,6 +104,7 @@ void add_preview(CLI::App& app, Tool& tool) {
     asc::View& view = options.view;
     command.add_option("FILE", options.file, "A mesh file")->type_name("")->required();
     add_picture(command, options.out, "The picture (the file's name with .png)");
+    add_force(command, options.force);
     command.add_option("--object", options.object, "Only this object")->type_name("NAME");
     add_vector(command, "--camera", options.camera, "Where the camera stands");
     add_vector(command, "--look", view.look, "Where it looks (0,0,0)");
@@ -117,6 +123,7 @@ void add_sheet(CLI::App& app, Tool& tool) {
     asc::SheetOptions& options = tool.sheet;
     command.add_option("FILE", options.files, "Mesh files")->type_name("")->required();
     add_picture(command, options.out, "The picture")->required();
+    add_force(command, options.force);
     auto const columns = [&](std::string const& v) { return read_number(v, 1u, 100u, options.columns); };
     add_value(command, "--columns", "N", columns, "a number from 1 to 100", "Objects per row (5)");
     auto const panel = [&](std::string const& v) { return read_number(v, 20u, 2000u, options.panel); };

@@ -50,6 +50,9 @@ Box box_of(Object const& object);
 
 /// Resolution of coordinates in a file, units: six decimals are written, so nothing thinner than this is a triangle.
 inline constexpr double resolution = 1e-6;
+/// The farthest that a vertex may lie from the origin along an axis, units: there `resolution` still tells two apart,
+/// and every whole number of the tool's grids fits an integer.
+inline constexpr double most_coordinate = 1e6;
 /// Faces that meet at less than this angle count as coplanar, degrees.
 inline constexpr double crease_angle = 1.0;
 

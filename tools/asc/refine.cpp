@@ -177,6 +177,17 @@ Cuts even_cuts(Object const& object, std::set<Edge> const& shown, double size) {
 
 } // namespace
 
+double least_refined(Object const& object, double size) {
+    double area = 0, border = 0;
+    for (Face const& face : object.faces) area += length(face_normal(object, face)) / 2;
+    for (Edge const& edge : creases(object)) {
+        border += length(object.vertices[static_cast<std::size_t>(edge.first)] -
+                         object.vertices[static_cast<std::size_t>(edge.second)]);
+    }
+    double const largest = std::numbers::sqrt3 / 4 * size * size; // equilateral
+    return std::max(area / largest, border / size / 3);
+}
+
 bool refine(Object& object, double size, double min_angle) {
     Edges const edges = edges_of(object);
     std::set<Edge> const shown = creases(object);

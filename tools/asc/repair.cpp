@@ -6,27 +6,80 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <set>
+#include <unordered_map>
 
 namespace asc {
 
 namespace {
 
+/// Points in a grid whose cells are as wide as the distance that is looked for.
+class Grid {
+public:
+    explicit Grid(double width) : cell(width) {}
+
+    void Add(Vec3 p, int index) { cells[CellOf(p)].push_back({p, index}); }
+
+    /// @return index of the point nearer than a cell's width, the first in the order of x, y, z if there are several;
+    /// -1
+    ///         if there is none
+    int Find(Vec3 p) const {
+        Entry const* best = nullptr;
+        auto const [x, y, z] = CellOf(p);
+        for (std::int64_t i = x - 1; i <= x + 1; ++i) {
+            for (std::int64_t j = y - 1; j <= y + 1; ++j) {
+                for (std::int64_t k = z - 1; k <= z + 1; ++k) best = Better(best, {i, j, k}, p);
+            }
+        }
+        return best ? best->index : -1;
+    }
+
+private:
+    using Cell = std::array<std::int64_t, 3>;
+    struct Entry {
+        Vec3 point;
+        int index;
+    };
+    struct Hash {
+        std::size_t operator()(Cell const& c) const {
+            std::uint64_t hash = 0;
+            for (std::int64_t const part : c) hash = (hash ^ static_cast<std::uint64_t>(part)) * 0x9E3779B97F4A7C15U;
+            return hash ^ hash >> 32;
+        }
+    };
+
+    Cell CellOf(Vec3 p) const {
+        auto const whole = [this](double v) { return static_cast<std::int64_t>(std::floor(v / cell)); };
+        return {whole(p.x), whole(p.y), whole(p.z)};
+    }
+    Entry const* Better(Entry const* best, Cell const& where, Vec3 p) const {
+        auto const found = cells.find(where);
+        if (found == cells.end()) return best;
+        for (Entry const& entry : found->second) {
+            if (length(entry.point - p) < cell && (!best || entry.point < best->point)) best = &entry;
+        }
+        return best;
+    }
+
+    double cell;
+    std::unordered_map<Cell, std::vector<Entry>, Hash> cells;
+};
+
 /// Not CGAL's: it merges equal points only.
 void weld(Object& object, double distance) {
     std::vector<Vec3> kept;
-    std::map<Vec3, int> index; // of the kept ones, ordered by x
+    Grid grid(distance);
     std::vector<int> to;
     for (Vec3 const& vertex : object.vertices) {
         Vec3 const p = {rounded(vertex.x), rounded(vertex.y), rounded(vertex.z)};
-        auto near = index.lower_bound({p.x - distance, p.y - distance, p.z - distance});
-        auto const end = index.upper_bound({p.x + distance, p.y + distance, p.z + distance});
-        while (near != end && length(near->first - p) >= distance) ++near;
-        if (near == end) {
-            near = index.emplace(p, static_cast<int>(kept.size())).first;
+        int index = grid.Find(p);
+        if (index < 0) {
+            index = static_cast<int>(kept.size());
+            grid.Add(p, index);
             kept.push_back(p);
         }
-        to.push_back(near->second);
+        to.push_back(index);
     }
     for (Face& face : object.faces) {
         for (int& v : face.v) v = to[static_cast<std::size_t>(v)];

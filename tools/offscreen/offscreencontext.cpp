@@ -41,10 +41,9 @@ std::vector<EGLDisplay> candidates() {
 }
 
 // Every driver supports pbuffers, though not in every configuration; the second choice asks for nothing.
-bool choose_config(EGLDisplay display, EGLConfig& config) {
-    constexpr EGLint with_pbuffer[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT,
-                                       EGL_NONE};
-    constexpr EGLint without[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_SURFACE_TYPE, 0, EGL_NONE};
+bool choose_config(EGLDisplay display, EGLint renderable, EGLConfig& config) {
+    EGLint const with_pbuffer[] = {EGL_RENDERABLE_TYPE, renderable, EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_NONE};
+    EGLint const without[] = {EGL_RENDERABLE_TYPE, renderable, EGL_SURFACE_TYPE, 0, EGL_NONE};
     for (EGLint const* wishes : {with_pbuffer, without}) {
         EGLint count = 0;
         if (eglChooseConfig(display, wishes, &config, 1, &count) && count > 0) return true;
@@ -56,18 +55,22 @@ bool choose_config(EGLDisplay display, EGLConfig& config) {
 
 OffscreenContext::~OffscreenContext() { Close(); }
 
-bool OffscreenContext::Open() {
+bool OffscreenContext::Open(Api api) {
     Close();
-    return std::ranges::any_of(candidates(), [this](EGLDisplay candidate) { return OpenOn(candidate); });
+    return std::ranges::any_of(candidates(), [&](EGLDisplay candidate) { return OpenOn(candidate, api); });
 }
 
-bool OffscreenContext::OpenOn(EGLDisplay candidate) {
+bool OffscreenContext::OpenOn(EGLDisplay candidate, Api api) {
     if (candidate == EGL_NO_DISPLAY || !eglInitialize(candidate, nullptr, nullptr)) return false;
     display = candidate;
     EGLConfig config = nullptr;
-    if (eglBindAPI(EGL_OPENGL_API) && choose_config(display, config)) {
-        // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
-        context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
+    bool const desktop = api == Api::Desktop;
+    // If no version or profile is requested, a driver gives the newest one that keeps the fixed functions.
+    constexpr EGLint newest[] = {EGL_NONE};
+    constexpr EGLint third[] = {EGL_CONTEXT_CLIENT_VERSION, 3, EGL_NONE};
+    if (eglBindAPI(desktop ? EGL_OPENGL_API : EGL_OPENGL_ES_API) &&
+        choose_config(display, desktop ? EGL_OPENGL_BIT : EGL_OPENGL_ES3_BIT, config)) {
+        context = eglCreateContext(display, config, EGL_NO_CONTEXT, desktop ? newest : third);
         if (context != EGL_NO_CONTEXT && MakeCurrent(config)) return true;
     }
     Close();

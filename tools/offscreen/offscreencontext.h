@@ -3,8 +3,8 @@
 #include <EGL/egl.h>
 #include <string>
 
-/// An OpenGL context without a window or an X server, through EGL: compatibility profile, current on the thread that
-/// opened it. It has no picture to draw into; use a Framebuffer.
+/// An OpenGL context without a window or an X server, through EGL, current on the thread that opened it. It has no
+/// picture to draw into; use a Framebuffer.
 ///
 /// Tried in this order: Mesa's surfaceless platform, then every device that EGL lists, then the default display; on
 /// each with no surface at all, then with a small pbuffer. On a machine with several drivers the variable
@@ -16,15 +16,18 @@ public:
     OffscreenContext& operator=(OffscreenContext const&) = delete;
     ~OffscreenContext();
 
+    enum class Api { Desktop, Embedded };
+
     /// Makes the context and makes it current.
+    /// @param api  OpenGL with its fixed functions, or OpenGL ES 3
     /// @return false if no driver offers one
-    bool Open();
+    bool Open(Api api = Api::Desktop);
 
     /// The driver's name of the renderer, for example "llvmpipe (LLVM 15.0.6, 256 bits)"; "" before Open.
     static std::string Renderer();
 
 private:
-    bool OpenOn(EGLDisplay candidate);
+    bool OpenOn(EGLDisplay candidate, Api api);
     bool MakeCurrent(EGLConfig config);
     void Close();
 

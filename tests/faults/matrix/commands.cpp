@@ -53,7 +53,7 @@ std::string shown(std::string const& text) {
 
 std::string own_display() { return own_screen().Name(); }
 
-std::string complaint(Command const& command, End const& end) {
+std::string end_complaint(Command const& command, End const& end) {
     support::Outcome const outcome = support::run(
         with_shell(command), {.folder = command.folder, .environment = command.environment, .limit = end.within});
     int const status = outcome.signal ? 128 + outcome.signal : outcome.status;
@@ -67,7 +67,7 @@ std::string complaint(Command const& command, End const& end) {
     return what_was_said(outcome.error, end.lines, true, end.says);
 }
 
-std::string complaint(Command command, Play const& play) {
+std::string play_complaint(Command command, Play const& play) {
     command.environment.push_back("DISPLAY=" + own_display());
     Process process(with_shell(command), command.environment, command.folder);
     if (!own_screen().FindShow()) return "no picture: " + shown(process.Error());
@@ -81,12 +81,13 @@ std::string complaint(Command command, Play const& play) {
 }
 
 Cell ends(std::string name, Command command, End end) {
-    return {std::move(name), [command = std::move(command), end = std::move(end)] { return complaint(command, end); }};
+    return {std::move(name),
+            [command = std::move(command), end = std::move(end)] { return end_complaint(command, end); }};
 }
 
 Cell plays(std::string name, Command command, Play play) {
     return {std::move(name),
-            [command = std::move(command), play = std::move(play)] { return complaint(command, play); }};
+            [command = std::move(command), play = std::move(play)] { return play_complaint(command, play); }};
 }
 
 std::vector<std::string> small_show(std::vector<std::string> const& more) {

@@ -36,7 +36,7 @@ struct End {
 
 /// Runs the command to its end.
 /// @return "" if it ends like that; else what is wrong
-std::string complaint(Command const& command, End const& end);
+std::string end_complaint(Command const& command, End const& end);
 
 Cell ends(std::string name, Command command, End end = {});
 
@@ -50,7 +50,7 @@ struct Play {
 
 /// Runs the show on a screen of the worker's own until its window is there and it has drawn for a moment, and ends it.
 /// @return "" if it plays like that; else what is wrong
-std::string complaint(Command command, Play const& play);
+std::string play_complaint(Command command, Play const& play);
 
 Cell plays(std::string name, Command command, Play play = {});
 

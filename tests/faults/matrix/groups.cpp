@@ -3,5 +3,9 @@
 std::vector<faults::Group> faults::all_groups() {
     return {
         {"commandline", "options and settings that are wrong", commandline_cells},
+        {"signals", "signals while the show plays", signal_cells},
+        {"videomode", "the desktop's video mode after the show's end, of every kind", videomode_cells, true},
+        {"screens", "displays and drivers that are missing or poor", screen_cells},
+        {"servers", "X servers that die, stop or never answer", server_cells},
     };
 }

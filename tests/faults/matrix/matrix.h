@@ -31,5 +31,9 @@ std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers);
 
 // The groups, each in a unit of its own.
 std::vector<Cell> commandline_cells();
+std::vector<Cell> signal_cells();
+std::vector<Cell> videomode_cells();
+std::vector<Cell> screen_cells();
+std::vector<Cell> server_cells();
 
 } // namespace faults

@@ -7,8 +7,10 @@
 #include <SFML/Graphics/Image.hpp>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
+#include <sys/stat.h>
 
 using support::Outcome;
 
@@ -214,8 +216,10 @@ TEST_F(AscCommand, SaysInOneLineWhatIsWrong) {
         {"convert --refine -1 a.off -o a.asc", "--refine: '-1' is not a number from 0.0001 to 1000000"},
         {"convert --weld nan a.off -o a.asc", "--weld: 'nan' is not a number from 0.000001 to 1000"},
         {"convert --min-angle 50 a.off -o a.asc", "--min-angle: '50' is not a number from 0 to 30"},
-        {"convert --centre 1,2 a.off -o a.asc", "--centre: '1,2' is not a number or three between commas"},
-        {"convert --centre 1,2,3, a.off -o a.asc", "--centre: '1,2,3,' is not a number or three between commas"},
+        {"convert --centre 1,2 a.off -o a.asc",
+         "--centre: '1,2' is not a number from -1000000 to 1000000, or three between commas"},
+        {"convert --centre 1,2,3, a.off -o a.asc",
+         "--centre: '1,2,3,' is not a number from -1000000 to 1000000, or three between commas"},
         {"convert none.off -o a.asc", "none.off: no such file"},
         {"convert . -o a.asc", ".: no such file"},
         {"convert line.obj -o a.asc", "line.obj: nothing is left of object 'line'"},
@@ -269,6 +273,125 @@ TEST_F(AscCommand, KeepsAnOldFileWhereANewOneDoesNotFit) {
         EXPECT_EQ(get(file), "old");
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path("")), {}), 4);
+}
+
+TEST_F(AscCommand, HoldsCoordinatesToTheirRange) {
+    std::string const range = "a coordinate is not a number from -1000000 to 1000000\n";
+    for (char const* const number : {"nan", "inf", "-inf", "1e999", "1e30", "-1000001"}) {
+        put("a.obj", "v " + std::string(number) + " 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
+        Outcome const run = call("convert a.obj -o a.asc");
+        EXPECT_EQ(run.status, 1) << number;
+        EXPECT_EQ(run.error, "asc: a.obj: " + range);
+    }
+    put("a.obj", "v 1000000 0 0\nv -1000000 0 0\nv 0 1 0\nf 1 2 3\n");
+    EXPECT_EQ(call("convert a.obj -o a.asc").status, 0);
+    EXPECT_EQ(call("check a.asc").status, 0);
+    std::string text = get("a.asc");
+    put("b.asc", text.replace(text.find("1000000"), 7, "1000001"));
+    Outcome const run = call("check b.asc");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.output, "b.asc:4: " + range);
+    EXPECT_EQ(call("preview a.asc --camera 0,0,1e7").error,
+              "asc: --camera: '0,0,1e7' is not a number from -1000000 to 1000000, or three between commas\n");
+}
+
+TEST_F(AscCommand, OutlivesTheModelReader) {
+    std::string nodes;
+    for (int i = 1; i <= 200000; ++i) nodes += "{\"children\":[" + std::to_string(i) + "]},";
+    put("deep.gltf", "{\"asset\":{\"version\":\"2.0\"},\"scene\":0,\"scenes\":[{\"nodes\":[0]}],\"nodes\":[" + nodes +
+                         "{\"mesh\":0}],\"meshes\":[{\"primitives\":[{\"attributes\":{}}]}]}");
+    put("nested.gltf", "{\"asset\":" + std::string(300000, '['));
+    put("cut.off", "OFF\n4 4 0\n1 1 1\n1 -1 -1\n-1 1 -1\n-1 -1 1\n3 0 1 2\n3 0 2");
+    put("counts.off", "OFF\n2000000000 2000000000 0\n1 1 1\n");
+    put("out.asc", "old");
+    for (char const* const file : {"deep.gltf", "nested.gltf", "cut.off", "counts.off"}) {
+        Outcome const run = call("convert " + std::string(file) + " -o out.asc");
+        EXPECT_EQ(run.status, 1) << file;
+        EXPECT_TRUE(run.error.starts_with("asc: " + std::string(file) + ": ")) << run.error;
+        EXPECT_EQ(std::count(run.error.begin(), run.error.end(), '\n'), 1) << run.error;
+        EXPECT_EQ(get("out.asc"), "old");
+    }
+}
+
+TEST_F(AscCommand, DoesNotWaitForAMaterial) {
+    ASSERT_EQ(mkfifo(folder.Path("pipe.mtl").c_str(), 0666), 0);
+    put("a.obj", "mtllib pipe.mtl\nusemtl m\n" + std::string(square_obj));
+    auto const start = std::chrono::steady_clock::now();
+    Outcome const run = call("convert a.obj -o a.asc");
+    EXPECT_EQ(run.status, 0) << run.error;
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
+}
+
+TEST_F(AscCommand, HasALargestFileAndAFinestRefinement) {
+    put("large.stl", "");
+    std::filesystem::resize_file(folder.Path("large.stl"), std::uintmax_t{4} << 30); // all of it a hole
+    put("large.asc", "");
+    std::filesystem::resize_file(folder.Path("large.asc"), std::uintmax_t{4} << 30);
+    put("box.obj", box_obj);
+    std::pair<char const*, char const*> const cases[] = {
+        {"convert large.stl -o a.asc", "large.stl: it has more than 256 MiB"},
+        {"check large.asc", "cannot read large.asc"},
+        {"convert box.obj --refine 0.0001 -o a.asc",
+         "box.obj: --refine would cut object 'box' into more than 50000 triangles"},
+        {"convert box.obj --refine 0.02 -o a.asc",
+         "box.obj: --refine would cut object 'box' into more than 50000 triangles"},
+    };
+    for (auto const& [arguments, line] : cases) {
+        Outcome const run = call(arguments);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.error, "asc: " + std::string(line) + "\n");
+    }
+}
+
+TEST_F(AscCommand, ReplacesWhatItReadsOnlyWhenAsked) {
+    put("a.obj", square_obj);
+    ASSERT_EQ(call("convert a.obj -o a.asc").status, 0);
+    put("a.png", get("a.asc"));
+    std::filesystem::create_symlink("a.asc", folder.Path("link.asc"));
+    std::filesystem::create_hard_link(folder.Path("a.obj"), folder.Path("other.obj"));
+    std::pair<char const*, char const*> const cases[] = {
+        {"convert a.obj -o a.obj", "a.obj"},         {"convert N=a.obj -o ./a.obj", "./a.obj"},
+        {"convert a.obj -o other.obj", "other.obj"}, {"join a.asc -o a.asc", "a.asc"},
+        {"join a.asc -o link.asc", "link.asc"},      {"preview a.png", "a.png"},
+        {"preview a.png --camera 0,0,3", "a.png"},   {"sheet a.asc a.png -o a.png", "a.png"},
+    };
+    std::string const before = get("a.obj") + get("a.asc") + get("a.png");
+    for (auto const& [arguments, out] : cases) {
+        Outcome const run = call(arguments);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.error, "asc: " + std::string(out) + " is read, and would be replaced; --force does it\n");
+    }
+    EXPECT_EQ(get("a.obj") + get("a.asc") + get("a.png"), before);
+    for (char const* const arguments : {"join N=a.asc -o a.asc", "convert M=a.obj -o a.obj", "preview a.png"}) {
+        EXPECT_EQ(call(arguments + std::string(" --force")).error, "");
+    }
+    EXPECT_TRUE(get("a.asc").starts_with("Named object: \"N\""));
+    EXPECT_TRUE(get("a.obj").starts_with("Named object: \"M\""));
+}
+
+TEST_F(AscCommand, TakesPathsWithOddCharacters) {
+    std::filesystem::create_directory(folder.Path("x=y"));
+    std::filesystem::create_directory(folder.Path("a.asc.d"));
+    put("x=y/a=b.obj", square_obj);
+    EXPECT_EQ(call("convert x=y/a=b.obj -o x=y/a=b.asc").error, "");
+    EXPECT_TRUE(get("x=y/a=b.asc").starts_with("Named object: \"a=b\""));
+    EXPECT_EQ(call("convert N=x=y/a=b.obj -o a.asc").error, "");
+    EXPECT_TRUE(get("a.asc").starts_with("Named object: \"N\""));
+    EXPECT_EQ(call("join M=x=y/a=b.asc x=y/a=b.asc -o b.asc").error, "");
+    EXPECT_TRUE(get("b.asc").starts_with("Named object: \"M\""));
+    EXPECT_EQ(call("sheet x=y/a=b.asc -o x=y/s.png").error, "");
+    EXPECT_EQ(call("preview x=y/a=b.asc").error, "");
+    put("a.asc.d/foo", get("a.asc"));
+    EXPECT_EQ(call("preview a.asc.d/foo").error, "");
+    for (char const* const file : {"x=y/s.png", "x=y/a=b.png", "a.asc.d/foo.png"}) EXPECT_NE(get(file), "") << file;
+}
+
+TEST_F(AscCommand, WritesNamesOutThatWouldSteerATerminal) {
+    put("a.off", tetrahedron_off);
+    ASSERT_EQ(call("convert \"$(printf 'a\\033[2J')\"=a.off -o a.asc").status, 0);
+    EXPECT_EQ(call("check a.asc").output.substr(0, 21), "a.asc: a\\x1b[2J: 4 ve");
+    EXPECT_EQ(call("check \"$(printf 'b\\033[2J')\"").error, "asc: cannot read b\\x1b[2J\n");
+    EXPECT_EQ(call("preview a.asc --object \"$(printf 'b\\033')\"").error, "asc: a.asc holds no object 'b\\x1b'\n");
 }
 
 TEST_F(AscCommand, RefusesATooLargeSheetBeforeItDraws) {
