@@ -107,10 +107,11 @@ std::vector<Cell> soundtrack_cells() {
                                  support::TempFolder const folder;
                                  make_folder(folder, fault);
                                  bool const mute = !sound.options.empty();
-                                 return play_complaint({.arguments = small_show(sound.options),
-                                                        .environment = sound.environment,
-                                                        .folder = folder.Path("")},
-                                                       {.most_lines = 2, .prints = mute || !fault.prints ? "" : fault.prints});
+                                 return play_complaint(
+                                     {.arguments = small_show(sound.options),
+                                      .environment = sound.environment,
+                                      .folder = folder.Path("")},
+                                     {.most_lines = 2, .prints = mute || !fault.prints ? "" : fault.prints});
                              }});
         }
     }
