@@ -8,7 +8,7 @@
 namespace kore {
 
 /// Streams the music with SFML, on a thread of the library's own. The device is opened once there is a file to play,
-/// meanwhile; without one, or where it does not answer within a second, the player remains silent.
+/// meanwhile; without one, or where it does not answer in time, the player remains silent.
 class MusicSFML final : public Music {
 public:
     MusicSFML() = default;

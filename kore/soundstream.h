@@ -13,8 +13,8 @@ class Music;
 namespace kore {
 
 /// Opens a soundtrack, the sound device and a stream on it, on a thread of its own: a damaged file may be searched for
-/// long, a sound server may not answer, and nothing that asks it comes back then. For each of the two there is a second
-/// from the beginning; what comes later is dropped.
+/// long, a sound server may not answer, and nothing that asks it comes back then. For each of the two there is a
+/// second and a half from the beginning; what comes later is dropped.
 class SoundStream {
 public:
     enum class Result {
@@ -57,7 +57,7 @@ private:
     };
     static void Open(Shared& shared, std::string const& file);
 
-    static constexpr std::chrono::seconds longest{1}; ///< since the beginning
+    static constexpr std::chrono::milliseconds longest{1500}; ///< since the beginning
 
     std::shared_ptr<Shared> shared;
     std::chrono::steady_clock::time_point const begun = std::chrono::steady_clock::now();

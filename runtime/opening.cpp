@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int largest_window = 32767; // pixels: what the X protocol can say
-constexpr std::chrono::seconds longest_opening{5};
+constexpr int largest_window = 32767;               // pixels: what the X protocol can say
+constexpr std::chrono::seconds longest_opening{10}; // a driver may wake a graphics card, on a machine that is busy
 
 } // namespace
 

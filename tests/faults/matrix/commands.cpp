@@ -78,7 +78,8 @@ std::string end_complaint(Command const& command, End const& end) {
 std::string play_complaint(Command command, Play const& play) {
     command.environment.push_back("DISPLAY=" + own_display());
     Process process(with_shell(command), command.environment, command.folder);
-    if (!own_screen().FindShow()) return "no picture: " + shown(process.Error());
+    bool const found = own_screen().FindShow() || own_screen().FindShow(); // which waits ten seconds
+    if (!found) return "no picture: " + shown(process.Error());
     std::this_thread::sleep_for(play.time);
     if (!process.Running()) return "ended: " + shown(process.Error());
     if (!moves_in_time(own_screen())) return "the picture stands: " + shown(process.Error());

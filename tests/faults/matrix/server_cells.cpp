@@ -40,7 +40,7 @@ public:
 constexpr char const* note = "Setting vertical sync not supported\n";
 
 std::string ends_with_a_line(Process& show, std::string const& says) {
-    constexpr milliseconds longest = at_once + milliseconds(5000); // that is the time for an answer
+    constexpr milliseconds longest = at_once + milliseconds(10000); // that is the time for an answer
     auto const status = show.Wait(longest);
     std::string error = show.Error();
     if (!status) return "does not end: " + shown(error);
