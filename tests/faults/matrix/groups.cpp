@@ -7,5 +7,10 @@ std::vector<faults::Group> faults::all_groups() {
         {"videomode", "the desktop's video mode after the show's end, of every kind", videomode_cells, true},
         {"screens", "displays and drivers that are missing or poor", screen_cells},
         {"servers", "X servers that die, stop or never answer", server_cells},
+        {"data", "files of data/ that are missing or wrong", data_cells},
+        {"writing", "what stands in the way of a file", writing_cells},
+        {"output", "the tools' standard streams, closed or full", output_cells},
+        {"tools", "the tools' options, drivers and resources", tool_cells},
+        {"models", "model and mesh files that are wrong", model_cells},
     };
 }

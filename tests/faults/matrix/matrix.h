@@ -35,5 +35,10 @@ std::vector<Cell> signal_cells();
 std::vector<Cell> videomode_cells();
 std::vector<Cell> screen_cells();
 std::vector<Cell> server_cells();
+std::vector<Cell> data_cells();
+std::vector<Cell> writing_cells();
+std::vector<Cell> output_cells();
+std::vector<Cell> tool_cells();
+std::vector<Cell> model_cells();
 
 } // namespace faults
