@@ -60,7 +60,8 @@ Cell cell(Speaker const& speaker, Streams const& with, bool speaks) {
     int const lines = with.error ? speaker.lines + (fails ? 1 : 0) : 0;
     End const end{.status = fails ? std::vector<int>{1} : speaker.status,
                   .lines = lines,
-                  .says = lines > 0 && fails ? "cannot write to standard output" : ""};
+                  .says = lines > 0 && fails ? "cannot write to standard output" : "",
+                  .within = std::chrono::seconds(30)}; // some draw
     return {std::string(speaker.name) + ", " + with.name,
             [=] { return in_folder({}, {.arguments = speaker.command, .before = with.before}, end); }};
 }

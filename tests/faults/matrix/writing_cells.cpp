@@ -13,6 +13,9 @@ namespace faults {
 
 namespace {
 
+/// How long a picture may take where other tests hold the processor too.
+constexpr std::chrono::milliseconds drawing{30000};
+
 struct Writer {
     char const* name;
     std::function<std::vector<std::string>(std::string const& out)> command;
@@ -99,7 +102,8 @@ Cell too_large(Writer const& writer, bool there) {
                     [&](std::string const& folder) {
                         if (there) make_file(folder + out, "old");
                     },
-                    {.arguments = writer.command(out), .before = "ulimit -f 1"}, {.says = "File too large"},
+                    {.arguments = writer.command(out), .before = "ulimit -f 1"},
+                    {.says = "File too large", .within = drawing},
                     [&](std::string const& folder) -> std::string {
                         auto const files = std::distance(fs::directory_iterator(folder), {});
                         if (files != (there ? 4 : 3)) return "leaves something";
@@ -113,7 +117,7 @@ void add_stills(std::vector<Cell>& cells) {
         cells.push_back({std::string("stills into ") + deed.name, [=] {
                              return in_folder([&](std::string const& folder) { deed.act(folder + "beat_001.000.png"); },
                                               {.arguments = small_picture({"--beats", "1", "--out", "."})},
-                                              {.says = "cannot write ", .prints = ""});
+                                              {.says = "cannot write ", .prints = "", .within = drawing});
                          }});
     }
     std::pair<char const*, std::function<void(std::string const&)>> const folders[] = {
