@@ -86,7 +86,8 @@ int save_picture(std::optional<sf::Image> const& picture, std::string const& out
 }
 
 int save_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel, std::string const& out) {
-    std::string const error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    std::string error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    if (error.empty()) error = refuse_target(out);
     return error.empty() ? save_picture(draw_sheet(objects, columns, panel), out) : failed(error);
 }
 
@@ -172,6 +173,7 @@ int preview(PreviewOptions const& options) {
     if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
     if (!options.force && replaces_input({options.file}, out)) return 1;
     if (!options.camera) return save_sheet(objects, 2, 380, out);
+    if (std::string const error = refuse_target(out); !error.empty()) return failed(error);
     View view = options.view;
     view.camera = *options.camera;
     return save_picture(draw_view(objects, view, 1024, 768), out);
