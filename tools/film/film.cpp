@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <csignal>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <thread>
@@ -89,6 +90,12 @@ int Production::Run() {
     plan = *planned;
     all = plan.Count();
     first = plan.first;
+    if (my_options.film.plan) {
+        EncoderTask task = encoder_task(my_options, plan, my_music);
+        if (!task.music.empty()) task.music = std::filesystem::absolute(task.music).string();
+        std::cout << encoder_script(task, std::filesystem::current_path().string());
+        return 0;
+    }
     std::string error = Open();
     if (error.empty()) error = MakeFrames();
     if (renderer_failed) return renderers.FailedStatus();

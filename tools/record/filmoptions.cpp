@@ -62,6 +62,9 @@ void add_film_options(CLI::App& app, FilmOptions& options) {
     add_value(app, "--y4m", "-", [&](Value v) { return take_dash(v, options.y4m); }, "-, for standard output",
               "Write it as a YUV4MPEG2 stream, 4:4:4");
     app.add_flag("--md5", options.digests, "Print the MD5 digest of each frame's bare pixels, as framemd5 does");
+    app.add_flag("--plan", options.plan,
+                 "With --film, make nothing: print its frames and what ffmpeg would be asked, for scripts such as "
+                 "tools/farm");
     add_value(app, "--fps", "RATE", [&](Value v) { return take(v, options.rate, parse_rate); },
               "a rate from 24000/1001 to 240, such as 60 or 60000/1001",
               "Frames a second (60; of .gif and .webp 25). Strobes flicker per frame: slower at a lower rate");
@@ -83,6 +86,7 @@ void add_film_options(CLI::App& app, FilmOptions& options) {
 std::string film_conflict(FilmOptions const& options, bool scene) {
     int const streams = (options.raw.empty() ? 0 : 1) + (options.y4m.empty() ? 0 : 1) + (options.digests ? 1 : 0);
     if (streams > 1) return "only one of --raw, --y4m and --md5 fits on standard output";
+    if (options.plan && (options.file.empty() || streams > 0)) return "--plan is for --film alone";
     if (options.frames && (scene || options.from || options.to)) {
         return "either --frames or --scene, --from and --to";
     }
