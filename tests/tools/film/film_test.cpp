@@ -135,8 +135,8 @@ TEST_F(Film, SaysSoWhereItsOutputIsClosed) {
 TEST_F(Film, SaysSoWhereThereIsNoFfmpeg) {
     Outcome const outcome = Record("--film a.mp4 --frames 0:3", {"PATH=/nowhere"});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.error, "hardsilence-record: films are made by ffmpeg, which is not installed; --raw and --y4m do "
-                             "without\n");
+    EXPECT_EQ(outcome.error,
+              "hardsilence-record: ffmpeg, which makes films, is not installed; --raw and --y4m do without\n");
     EXPECT_TRUE(fs::is_empty(In("")));
 }
 
