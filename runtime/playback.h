@@ -34,6 +34,9 @@ public:
     /// @param view  where it is free, the view that stands in for the scenes' cameras
     void Draw(DebugCamera const& view = {});
 
+    /// Draws the frame that was played last once more.
+    void DrawAgain(DebugCamera const& view = {}) { stepper.Draw(view); }
+
 private:
     float NextTime() const { return frame_time(next, my_rate); }
 

@@ -75,8 +75,8 @@ std::string encoder_script(EncoderTask const& task, std::string const& home) {
     append(sound, sound_codec(task));
     return "frames=" + std::to_string(task.plan.first) + ":" + std::to_string(task.plan.end) + "\n" +
            "rate=" + task.plan.rate.Text() + "\n" + "size=" + std::to_string(task.width) + "x" +
-           std::to_string(task.height) + "\n" + "home=" + quoted(home) + "\n" +
-           array("video", picture_codec(task)) + array("sound", sound) + array("tags", tags(task));
+           std::to_string(task.height) + "\n" + "home=" + quoted(home) + "\n" + array("video", picture_codec(task)) +
+           array("sound", sound) + array("tags", tags(task));
 }
 
 std::vector<std::string> split_arguments(std::string const& text) {

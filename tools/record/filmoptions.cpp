@@ -53,6 +53,7 @@ std::optional<FrameRange> parse_frames(std::string const& text) {
 void add_film_options(CLI::App& app, FilmOptions& options) {
     using Value = std::string const&;
     char const* const beat = "a number of beats such as 12.4";
+    app.option_defaults()->group("Films");
     // clang-format off
     add_value(app, "--film", "FILE", [&](Value v) { return take_text(v, options.file); }, "a path",
               "Make a film with sound: .mp4 or .webm to show, .mkv lossless, .gif or .webp short and silent");
@@ -66,8 +67,7 @@ void add_film_options(CLI::App& app, FilmOptions& options) {
                  "tools/farm");
     add_value(app, "--fps", "RATE", [&](Value v) { return take(v, options.rate, parse_rate); },
               "a rate from 24000/1001 to 240, such as 60 or 60000/1001",
-              "Frames a second (60; of .gif and .webp 25). Strobes change with every frame: another rate flickers at "
-              "another speed");
+              "Frames a second (60; of .gif and .webp 25). Strobes flicker per frame: slower at a lower rate");
     add_value(app, "--from", "BEAT", [&](Value v) { return take(v, options.from, parse_beat); }, beat,
               "Begin at this beat of the show, or of the scene");
     add_value(app, "--to", "BEAT", [&](Value v) { return take(v, options.to, parse_beat); }, beat,

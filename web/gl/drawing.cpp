@@ -172,7 +172,7 @@ bool Drawing::Open(Driver const& driver, Lines how) {
     streamed = MakeArray(true);
     stream = Batch(stream_elements, lines);
     placed_already = textured = false;
-    width = 1;
+    width = line_scale = 1;
     SetViewport(viewport[2], viewport[3]);
     return true;
 }
@@ -281,6 +281,12 @@ void Drawing::SetLineWidth(float pixels) {
     SetPen();
 }
 
+void Drawing::ScaleLines(float factor) {
+    Flush();
+    line_scale = factor;
+    SetPen();
+}
+
 void Drawing::SetViewport(GLsizei wide, GLsizei high) {
     Flush();
     half_viewport[0] = static_cast<float>(wide) / 2;
@@ -306,8 +312,9 @@ void Drawing::SetPlace(Matrix const* place) {
 }
 
 void Drawing::SetPen() {
-    if (lines == Lines::Driver) gl.LineWidth(width);
-    gl.Uniform4f(uniforms.pen, half_viewport[0], half_viewport[1], width / 2, grid);
+    float const scaled = line_scale * width;
+    if (lines == Lines::Driver) gl.LineWidth(scaled);
+    gl.Uniform4f(uniforms.pen, half_viewport[0], half_viewport[1], scaled / 2, grid);
 }
 
 } // namespace fixedgl

@@ -121,7 +121,8 @@ public:
     void Draw(Mesh const& mesh, Matrix const& place, Color color);
     void Delete(Mesh& mesh);
 
-    void SetLineWidth(float width);                  ///< pixels
+    void SetLineWidth(float pixels);
+    void ScaleLines(float factor);                   ///< widths from now on
     void SetViewport(GLsizei width, GLsizei height); ///< pixels
     void SetTextured(bool on);                       ///< by the first texel of the texture that is bound
 
@@ -147,6 +148,7 @@ private:
     Batch stream{0, lines};
     bool placed_already = false; ///< what the shader has been told
     bool textured = false;
+    float line_scale = 1;
     float width = 1;          ///< of lines, pixels
     float half_viewport[2]{}; ///< pixels
     float grid = 256;         ///< positions a pixel that the driver tells apart

@@ -27,6 +27,9 @@ namespace fixedgl {
 /// @return false if the driver refuses the shader
 bool open(Driver const& driver, Lines lines = Lines::Rectangles);
 
+/// Makes lines so many times wider than they are asked to be, for screens of several pixels to a dot; 1 at first.
+void scale_lines(float factor);
+
 /// Has everything drawn that was asked for; call it at the end of a frame, before the picture is read or shown.
 void flush();
 

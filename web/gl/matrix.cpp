@@ -1,8 +1,8 @@
 #include "web/gl/matrix.h"
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 namespace fixedgl {
 
@@ -19,7 +19,9 @@ struct Turn {
 /// Grids of one shape turn by the same few angles again and again; the last ones are kept.
 Turn const& turn_by(float angle) {
     static Turn kept[16] = {{0, 0, 1}};
-    Turn& turn = kept[std::bit_cast<std::uint32_t>(angle) * 2654435769u >> 28];
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, &angle, sizeof bits);
+    Turn& turn = kept[bits * 2654435769u >> 28];
     if (turn.angle != angle) {
         auto const radians = static_cast<float>(angle * degree);
         turn = {angle, std::sin(radians), std::cos(radians)};

@@ -102,7 +102,7 @@ GLuint glGenLists(GLsizei range) {
     if (refused()) return 0;
     if (range < 0) raise(GL_INVALID_VALUE);
     if (range <= 0) return 0;
-    // The names behind the last one that was ever used are free, and stand together.
+    // The names behind the last one in use are free, and stand together.
     std::size_t const first = std::max<std::size_t>(1, state.lists.size());
     if (first + static_cast<std::size_t>(range) > most_names) {
         raise(GL_OUT_OF_MEMORY);
@@ -117,9 +117,10 @@ void glDeleteLists(GLuint first, GLsizei range) {
     if (refused()) return;
     if (range < 0) return raise(GL_INVALID_VALUE);
     state.drawing.Flush();
-    for (std::size_t i = first; i < std::min(state.lists.size(), std::size_t{first} + static_cast<std::size_t>(range));
-         ++i)
-        erase(state.lists[i]);
+    std::size_t const end = std::min(state.lists.size(), std::size_t{first} + static_cast<std::size_t>(range));
+    for (std::size_t i = first; i < end; ++i) erase(state.lists[i]);
+    // So that glGenLists finds the names again.
+    while (!state.lists.empty() && !state.lists.back().reserved) state.lists.pop_back();
 }
 
 GLboolean glIsList(GLuint list) {

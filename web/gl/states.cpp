@@ -79,6 +79,8 @@ bool open(Driver const& gl, Lines lines) {
     return true;
 }
 
+void scale_lines(float factor) { state.drawing.ScaleLines(factor); }
+
 void flush() { state.drawing.Flush(); }
 
 void close() {
