@@ -16,6 +16,7 @@ constexpr char const* real = HARDSILENCE_BINARY_DIR "/hardsilence-record";
 
 constexpr char const* recorder = R"sh(#!/bin/sh
 here="$(dirname "$0")"
+real="$real"
 echo "$*" >>"$here/calls"
 part=
 case "$*" in *--md5*--frames*) part="$(echo "$*" | sed -n 's/.*--film \([^ ]*\).*/\1/p')" ;; esac
