@@ -224,15 +224,16 @@ describe("The show", () => {
     onPage("stays 4:3 and sharp in any window", playing(), async (page) => {
         for (const [width, height, scale] of [[844, 390, 3], [390, 844, 2], [1000, 700, 1]]) {
             await page.setViewport({ width, height, deviceScaleFactor: BROWSER === "chromium" ? scale : 1 });
-            await page.waitForFunction((wide) => Math.abs(window.innerWidth - wide) <= 1, {}, width);
-            await rest(300);
+            await page.waitForFunction((wide, high) => {
+                const box = document.getElementById("picture").getBoundingClientRect();
+                return Math.abs(box.width - Math.min(wide, (high * 4) / 3)) <= 2;
+            }, { timeout: 10000 }, width, height);
             const { box, pixels, ratio } = await page.$eval("#picture", (canvas) => ({
                 box: canvas.getBoundingClientRect().toJSON(),
                 pixels: [canvas.width, canvas.height],
                 ratio: devicePixelRatio,
             }));
             assert.ok(Math.abs(box.width / box.height - 4 / 3) < 0.01, `${box.width} x ${box.height}`);
-            assert.ok(Math.abs(box.width - width) <= 1 || Math.abs(box.height - height) <= 1);
             assert.ok(Math.abs(pixels[0] - box.width * ratio) <= 1 && Math.abs(pixels[1] - box.height * ratio) <= 1);
             assert.ok(Math.abs(box.left + box.right - width) <= 2 && Math.abs(box.top + box.bottom - height) <= 2);
         }
@@ -258,6 +259,7 @@ describe("The show", () => {
     });
 
     onPage("names every control for screen readers, in the order of tab", playing(), async (page) => {
+        await page.setViewport({ width: 1200, height: 700 }); // a narrow window leaves the volume out
         await paused(page);
         const names = [];
         for (let i = 0; i < 13; ++i) {
@@ -315,7 +317,7 @@ function tilesThatDiffer(page, frame, png) {
 describe("The picture", () => {
     // Two of every scene, at the moments whose pictures the project keeps.
     const moments = [0.5, 12.4, 17.5, 26.5, 68.1, 141, 165.5, 168.2, 184.5, 236, 256, 266, 308, 325, 353.5, 368.5];
-    const most = 2; // percent
+    const most = 0.5; // percent
 
     onPage("is the recorder's at 16 beats, and not that of another beat", playing(), async (page) => {
         const folder = mkdtempSync(join(tmpdir(), "hardsilence-page-"));
