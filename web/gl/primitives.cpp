@@ -136,7 +136,7 @@ void glNewList(GLuint list, GLenum mode) {
     if (state.compiler) return raise(GL_INVALID_OPERATION);
     if (list >= most_names) return raise(GL_OUT_OF_MEMORY);
     if (list >= state.lists.size()) state.lists.resize(std::size_t{list} + 1);
-    state.compiler = std::make_unique<Compiler>(state.drawing);
+    state.compiler = &state.the_compiler;
     state.compiling = list;
     state.busy = true;
 }
@@ -147,7 +147,7 @@ void glEndList() {
     erase(list);
     list = state.compiler->Finish();
     list.reserved = true;
-    state.compiler.reset();
+    state.compiler = nullptr;
     state.busy = false;
 }
 
