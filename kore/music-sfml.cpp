@@ -1,34 +1,22 @@
 #include "kore/music-sfml.h"
 
 #include "kore/reportedplaces.h"
-#include "kore/soundtrackfile.h"
 
-#include <SFML/Audio/InputSoundFile.hpp>
 #include <SFML/Audio/Music.hpp>
 #include <iostream>
 #include <utility>
 
 namespace kore {
 
-namespace {
-
-/// @return of the file, Hz; 0 where it cannot be opened
-unsigned int rate_of(std::string const& file) {
-    sf::InputSoundFile sound;
-    return may_be_soundtrack(file) && sound.openFromFile(file) ? sound.getSampleRate() : 0;
-}
-
-} // namespace
-
 bool MusicSFML::LoadFromFile(std::string const& file, int const& frequency) {
-    stream.reset();
     waited = false;
-    unsigned int const rate = rate_of(file);
+    stream.emplace(file);
+    unsigned int const rate = stream->Rate();
     if (rate == 0) {
         report_error(places::music_not_opened, "Failed to open music from file " + file);
+        waited = true; // in vain
         return true;
     }
-    stream.emplace(file);
     if (rate != static_cast<unsigned int>(frequency)) {
         report_error(places::music_at_another_rate, "Requested frequency (" + std::to_string(frequency) +
                                                         ") differs from audio file frequency (" + std::to_string(rate) +

@@ -12,14 +12,15 @@ class Music;
 
 namespace kore {
 
-/// Opens the sound device and a stream on it, on a thread of its own: a sound server may not answer, and nothing that
-/// asks it comes back then.
+/// Opens a soundtrack, the sound device and a stream on it, on a thread of its own: a damaged file may be searched for
+/// long, a sound server may not answer, and nothing that asks it comes back then. For each of the two there is a second
+/// from the beginning; what comes later is dropped.
 class SoundStream {
 public:
     enum class Result {
         Ready,
         NoDevice,
-        NoAnswer, ///< in time; what comes later is dropped
+        NoAnswer,
         NoFile,
     };
 
@@ -31,7 +32,10 @@ public:
     SoundStream(SoundStream const&) = delete;
     SoundStream& operator=(SoundStream const&) = delete;
 
-    /// What came of it, which is waited for until a second has passed since the beginning.
+    /// @return the soundtrack's rate, Hz, which is waited for; 0 where the file cannot be opened
+    unsigned int Rate();
+
+    /// What came of it, which is waited for.
     Result Wait();
 
     /// The stream, once it is ready; nullptr otherwise.
@@ -44,13 +48,16 @@ private:
     /// What both threads hold.
     struct Shared {
         std::mutex mutex;
-        std::condition_variable done;
+        std::condition_variable changed;
+        bool has_rate = false;
+        unsigned int rate = 0; ///< Hz
         bool is_done = false;
         Result result = Result::NoAnswer;
         std::unique_ptr<sf::Music> stream;
     };
+    static void Open(Shared& shared, std::string const& file);
+
     static constexpr std::chrono::seconds longest{1}; ///< since the beginning
-    static void Open(std::shared_ptr<Shared> const& shared, std::string const& file);
 
     std::shared_ptr<Shared> shared;
     std::chrono::steady_clock::time_point const begun = std::chrono::steady_clock::now();

@@ -28,7 +28,6 @@ void catch_stop_signals() {
     sigemptyset(&action.sa_mask);
     for (int const signal : {SIGINT, SIGQUIT, SIGTERM}) sigaction(signal, &action, nullptr);
     if (!is_ignored(SIGHUP)) sigaction(SIGHUP, &action, nullptr);
-    std::signal(SIGPIPE, SIG_IGN);
 }
 
 bool stop_requested() { return stop != 0; }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <atomic>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <iostream>
@@ -56,7 +57,9 @@ int DroppingBuffer::sync() {
 
 DroppingStreams::DroppingStreams()
     : output(STDOUT_FILENO), error(STDERR_FILENO), output_before(std::cout.rdbuf(&output)),
-      error_before(std::cerr.rdbuf(&error)) {}
+      error_before(std::cerr.rdbuf(&error)) {
+    std::signal(SIGPIPE, SIG_IGN);
+}
 
 DroppingStreams::~DroppingStreams() {
     std::cout.flush();

@@ -36,7 +36,8 @@ private:
     std::string waiting;
 };
 
-/// Has standard output and standard error drop what they do not take, while this lives.
+/// Has standard output and standard error drop what they do not take, while this lives. A pipe that loses its reader
+/// ends nothing, from then on.
 class DroppingStreams {
 public:
     DroppingStreams();

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <iostream>
 #include <stdexcept>
 #include <sys/resource.h>
@@ -22,6 +23,7 @@ class Capture {
 public:
     Capture() : file(std::tmpfile()) {
         if (!file) throw std::runtime_error("no temporary file");
+        fcntl(fileno(file), F_SETFD, FD_CLOEXEC); // programs get the standard streams and nothing else
     }
     ~Capture() { std::fclose(file); }
     Capture(Capture const&) = delete;

@@ -1,12 +1,15 @@
 #include "tools/files/streams.h"
 
+#include "runtime/streams.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <exception>
-#include <fcntl.h>
 #include <iostream>
 #include <new>
 #include <system_error>
@@ -41,6 +44,35 @@ std::size_t plain_character(std::string_view text) {
     return 0;
 }
 
+// For the report of a crash, which may not allocate. Who aborts has said why.
+constexpr int crashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL};
+constexpr std::size_t stack_size = 65536;
+char const* crashing_tool = "";
+
+extern "C" void tell_of_crash(int signal) {
+    char const number[] = {static_cast<char>('0' + signal / 10), static_cast<char>('0' + signal % 10)};
+    write_error_line(crashing_tool);
+    write_error_line(": ended by signal ");
+    write_error_line(signal < 10 ? std::string_view(number + 1, 1) : std::string_view(number, 2));
+    write_error_line(", a fault of its own or of a library\n");
+    // Its action is the default one again: what crashed does so again on return, and what was sent is sent again.
+    raise(signal);
+}
+
+void tell_of_crashes([[maybe_unused]] char const* name) {
+#ifndef __SANITIZE_ADDRESS__ // which tells more
+    crashing_tool = name;
+    stack_t stack{};                       // a crash may be one for want of stack
+    stack.ss_sp = std::malloc(stack_size); // in use to the end
+    stack.ss_size = stack_size;
+    if (stack.ss_sp) sigaltstack(&stack, nullptr);
+    struct sigaction action {};
+    action.sa_handler = tell_of_crash;
+    action.sa_flags = static_cast<int>(SA_ONSTACK | SA_RESETHAND);
+    for (int const signal : crashes) sigaction(signal, &action, nullptr);
+#endif
+}
+
 } // namespace
 
 std::string printable(std::string_view text) {
@@ -67,6 +99,7 @@ int complain(char const* name, std::string const& message) {
 
 int run_tool(char const* name, std::function<int()> const& work) {
     prepare_streams();
+    tell_of_crashes(name);
     int status = 1;
     try {
         status = work();
@@ -79,10 +112,7 @@ int run_tool(char const* name, std::function<int()> const& work) {
 }
 
 void prepare_streams() {
-    for (int const stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(stream, F_GETFD) >= 0) continue;
-        if (open("/dev/null", O_RDWR) < 0) return; // the lowest number that is free
-    }
+    open_missing_streams();
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 

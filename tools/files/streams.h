@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Runs a tool: prepares the streams, does the work, tells of what it throws, and sees all of its output written.
+/// Runs a tool: prepares the streams, does the work, tells of what it throws, and sees all of its output written. A
+/// crash, a library's too, is a line before the signal ends the process.
 /// @param name  the tool's, in front of its error lines
 /// @param work  returns the exit status
 /// @return the exit status: 1 also if the work throws or standard output could not be written

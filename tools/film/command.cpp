@@ -12,29 +12,71 @@ std::string sound_filter(EncoderTask const& task) {
            ",asetpts=PTS-STARTPTS,apad=whole_len=" + std::to_string(to - from);
 }
 
-void append(std::vector<std::string>& command, std::vector<std::string> const& more) {
-    command.insert(command.end(), more.begin(), more.end());
+using Arguments = std::vector<std::string>;
+
+void append(Arguments& command, Arguments const& more) { command.insert(command.end(), more.begin(), more.end()); }
+
+bool has_sound(EncoderTask const& task) {
+    return !task.music.empty() && (!task.arguments.empty() || *task.format->sound);
+}
+
+/// The music as the second input, the pictures being the first.
+Arguments sound_input(EncoderTask const& task) {
+    if (!has_sound(task)) return {};
+    return {"-i", task.music, "-map", "0:v", "-map", "1:a", "-af", sound_filter(task)};
+}
+
+Arguments tags(EncoderTask const& task) {
+    return {"-map_metadata", "-1",
+            "-metadata",     "title=Hard Silence",
+            "-metadata",     "artist=Quillon",
+            "-metadata",     std::string("comment=") + film_notice(task.calm),
+            "-fflags",       "+bitexact"};
+}
+
+Arguments picture_codec(EncoderTask const& task) {
+    return split_arguments(task.arguments.empty() ? task.format->video : task.arguments);
+}
+
+/// None where the task's own arguments, which are all in the pictures' part, tell it.
+Arguments sound_codec(EncoderTask const& task) {
+    return has_sound(task) && task.arguments.empty() ? split_arguments(task.format->sound) : Arguments{};
+}
+
+std::string quoted(std::string const& word) {
+    std::string text = "'";
+    for (char const c : word) text += c == '\'' ? "'\\''" : std::string(1, c);
+    return text + "'";
+}
+
+std::string array(char const* name, Arguments const& words) {
+    std::string line = std::string(name) + "=(";
+    for (std::string const& word : words) line += (line.back() == '(' ? "" : " ") + quoted(word);
+    return line + ")\n";
 }
 
 } // namespace
 
 std::vector<std::string> encoder_command(EncoderTask const& task) {
-    bool const sound = !task.music.empty() && (!task.arguments.empty() || *task.format->sound);
     std::vector<std::string> command = {"ffmpeg", "-nostdin", "-hide_banner", "-loglevel", "error", "-y"};
     append(command, {"-f", "rawvideo", "-pixel_format", "rgb24"});
     append(command, {"-video_size", std::to_string(task.width) + "x" + std::to_string(task.height)});
     append(command, {"-framerate", task.plan.rate.Text(), "-i", "pipe:0"});
-    if (sound) append(command, {"-i", task.music, "-map", "0:v", "-map", "1:a", "-af", sound_filter(task)});
-    append(command, {"-map_metadata", "-1", "-metadata", "title=Hard Silence", "-metadata", "artist=Quillon"});
-    append(command, {"-metadata", std::string("comment=") + film_notice(task.calm), "-fflags", "+bitexact"});
-    if (task.arguments.empty()) {
-        append(command, split_arguments(task.format->video));
-        if (sound) append(command, split_arguments(task.format->sound));
-    } else {
-        append(command, split_arguments(task.arguments));
-    }
+    append(command, sound_input(task));
+    append(command, tags(task));
+    append(command, picture_codec(task));
+    append(command, sound_codec(task));
     command.push_back("file:" + task.file);
     return command;
+}
+
+std::string encoder_script(EncoderTask const& task, std::string const& home) {
+    Arguments sound = sound_input(task);
+    append(sound, sound_codec(task));
+    return "frames=" + std::to_string(task.plan.first) + ":" + std::to_string(task.plan.end) + "\n" +
+           "rate=" + task.plan.rate.Text() + "\n" + "size=" + std::to_string(task.width) + "x" +
+           std::to_string(task.height) + "\n" + "home=" + quoted(home) + "\n" + array("video", picture_codec(task)) +
+           array("sound", sound) + array("tags", tags(task));
 }
 
 std::vector<std::string> split_arguments(std::string const& text) {

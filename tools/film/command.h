@@ -22,6 +22,11 @@ struct EncoderTask {
 /// The command line of ffmpeg that makes a film of the bare pixels on its standard input.
 std::vector<std::string> encoder_command(EncoderTask const& task);
 
+/// The same, for a script that runs ffmpeg by itself on pictures made elsewhere: the film's frames, rate and size, and
+/// the arguments for its pictures, its sound (with the music as the second input) and its tags, as variables of bash.
+/// @param home  the folder that holds "data/"
+std::string encoder_script(EncoderTask const& task, std::string const& home);
+
 /// Splits arguments at spaces; what stands between quotes, ' or ", stays together.
 std::vector<std::string> split_arguments(std::string const& text);
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <csignal>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <thread>
@@ -76,6 +77,8 @@ private:
     std::unique_ptr<FrameSink> stream; ///< on standard output; null for none
     FilmPlan plan;
     std::atomic<int> done = 0; ///< frames
+    std::atomic<int> all = 0;
+    std::atomic<int> first = 0; ///< of the frames
     bool renderer_failed = false;
 };
 
@@ -85,6 +88,14 @@ int Production::Run() {
     auto const planned = renderers.Plan();
     if (!planned) return renderers.FailedStatus();
     plan = *planned;
+    all = plan.Count();
+    first = plan.first;
+    if (my_options.film.plan) {
+        EncoderTask task = encoder_task(my_options, plan, my_music);
+        if (!task.music.empty()) task.music = std::filesystem::absolute(task.music).string();
+        std::cout << encoder_script(task, std::filesystem::current_path().string());
+        return 0;
+    }
     std::string error = Open();
     if (error.empty()) error = MakeFrames();
     if (renderer_failed) return renderers.FailedStatus();
@@ -134,13 +145,13 @@ std::string Production::Write(std::span<std::uint8_t const> pixels) {
 void Production::TidyUp() {
     encoder.Abandon();
     renderers.Kill();
-    if (isatty(STDERR_FILENO)) std::cerr << '\n';
-    std::string line = "stopped after " + std::to_string(done) + " of " + std::to_string(plan.Count()) + " frames; ";
-    if (my_options.film.file.empty())
-        line += "go on with --frames " + std::to_string(plan.first + done) + ":";
-    else
-        line += "nothing of the film is kept. tools/farm makes films that can be gone on with";
-    complain(line);
+    if (isatty(STDERR_FILENO)) std::cerr << '\n'; // after the progress line
+    std::string const next = std::to_string(first + done);
+    std::string const go_on = my_options.film.file.empty()
+                                  ? "go on with --frames " + next + ":"
+                                  : "nothing of the film is kept, but tools/farm can go on with a film";
+    std::string const after = "after " + std::to_string(done) + " of " + std::to_string(all) + " frames; " + go_on;
+    complain("stopped " + (done == 0 ? "before the first frame" : after));
 }
 
 } // namespace

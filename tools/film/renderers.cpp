@@ -4,6 +4,7 @@
 #include "tools/film/renderer.h"
 #include "tools/record/options.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -100,7 +101,11 @@ int Renderers::FailedStatus() {
     int status = 0;
     if (job.process <= 0 || waitpid(job.process, &status, 0) != job.process) return 1;
     job.process = -1;
-    return WIFEXITED(status) ? std::max(WEXITSTATUS(status), 1) : 128 + WTERMSIG(status);
+    if (WIFEXITED(status)) return std::max(WEXITSTATUS(status), 1);
+    int const number = WTERMSIG(status);
+    // A failed assertion has told of itself.
+    if (number != SIGABRT) complain("a process that draws was ended by signal " + std::to_string(number));
+    return 128 + number;
 }
 
 void Renderers::Kill() {

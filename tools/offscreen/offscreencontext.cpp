@@ -1,5 +1,7 @@
 #include "tools/offscreen/offscreencontext.h"
 
+#include "runtime/streams.h"
+
 #include <EGL/eglext.h>
 #include <GL/gl.h>
 #include <algorithm>
@@ -51,12 +53,22 @@ bool choose_config(EGLDisplay display, EGLint renderable, EGLConfig& config) {
     return false;
 }
 
+// Some drivers keep them for an older version alone, or for none. (Found by name: OpenGL ES has none to link with.)
+bool has_fixed_functions() {
+    auto const make = entry_point<GLuint (*)(GLsizei)>("glGenLists");
+    auto const remove = entry_point<void (*)(GLuint, GLsizei)>("glDeleteLists");
+    GLuint const list = make && remove ? make(1) : 0;
+    if (list != 0) remove(list, 1);
+    return list != 0;
+}
+
 } // namespace
 
 OffscreenContext::~OffscreenContext() { Close(); }
 
 bool OffscreenContext::Open(Api api) {
     Close();
+    QuietStandardError const quiet; // each driver that does not work says so in lines of its own
     return std::ranges::any_of(candidates(), [&](EGLDisplay candidate) { return OpenOn(candidate, api); });
 }
 
@@ -71,7 +83,7 @@ bool OffscreenContext::OpenOn(EGLDisplay candidate, Api api) {
     if (eglBindAPI(desktop ? EGL_OPENGL_API : EGL_OPENGL_ES_API) &&
         choose_config(display, desktop ? EGL_OPENGL_BIT : EGL_OPENGL_ES3_BIT, config)) {
         context = eglCreateContext(display, config, EGL_NO_CONTEXT, desktop ? newest : third);
-        if (context != EGL_NO_CONTEXT && MakeCurrent(config)) return true;
+        if (context != EGL_NO_CONTEXT && MakeCurrent(config) && (!desktop || has_fixed_functions())) return true;
     }
     Close();
     return false;

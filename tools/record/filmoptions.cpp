@@ -53,6 +53,7 @@ std::optional<FrameRange> parse_frames(std::string const& text) {
 void add_film_options(CLI::App& app, FilmOptions& options) {
     using Value = std::string const&;
     char const* const beat = "a number of beats such as 12.4";
+    app.option_defaults()->group("Films");
     // clang-format off
     add_value(app, "--film", "FILE", [&](Value v) { return take_text(v, options.file); }, "a path",
               "Make a film with sound: .mp4 or .webm to show, .mkv lossless, .gif or .webp short and silent");
@@ -61,10 +62,12 @@ void add_film_options(CLI::App& app, FilmOptions& options) {
     add_value(app, "--y4m", "-", [&](Value v) { return take_dash(v, options.y4m); }, "-, for standard output",
               "Write it as a YUV4MPEG2 stream, 4:4:4");
     app.add_flag("--md5", options.digests, "Print the MD5 digest of each frame's bare pixels, as framemd5 does");
+    app.add_flag("--plan", options.plan,
+                 "With --film, make nothing: print its frames and what ffmpeg would be asked, for scripts such as "
+                 "tools/farm");
     add_value(app, "--fps", "RATE", [&](Value v) { return take(v, options.rate, parse_rate); },
               "a rate from 24000/1001 to 240, such as 60 or 60000/1001",
-              "Frames a second (60; of .gif and .webp 25). Strobes change with every frame: another rate flickers at "
-              "another speed");
+              "Frames a second (60; of .gif and .webp 25). Strobes flicker per frame: slower at a lower rate");
     add_value(app, "--from", "BEAT", [&](Value v) { return take(v, options.from, parse_beat); }, beat,
               "Begin at this beat of the show, or of the scene");
     add_value(app, "--to", "BEAT", [&](Value v) { return take(v, options.to, parse_beat); }, beat,
@@ -83,6 +86,7 @@ void add_film_options(CLI::App& app, FilmOptions& options) {
 std::string film_conflict(FilmOptions const& options, bool scene) {
     int const streams = (options.raw.empty() ? 0 : 1) + (options.y4m.empty() ? 0 : 1) + (options.digests ? 1 : 0);
     if (streams > 1) return "only one of --raw, --y4m and --md5 fits on standard output";
+    if (options.plan && (options.file.empty() || streams > 0)) return "--plan is for --film alone";
     if (options.frames && (scene || options.from || options.to)) {
         return "either --frames or --scene, --from and --to";
     }

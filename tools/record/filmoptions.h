@@ -29,6 +29,7 @@ struct FilmOptions {
     std::string raw = {};  ///< "-": bare pixels to standard output
     std::string y4m = {};  ///< "-": a YUV4MPEG2 stream to standard output
     bool digests = false;
+    bool plan = false;                  ///< tell how the film would be made, instead of making it
     std::optional<FrameRate> rate = {}; ///< nothing for the format's own
     std::optional<FrameRange> frames = {};
     std::optional<Millibeats> from = {}; ///< of the show, or of the scene where one is asked for

@@ -127,11 +127,11 @@ std::vector<Millibeats> overview(Timetable const& timetable) {
 }
 
 int record(RecordOptions options) {
+    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     OffscreenContext context;
     if (!context.Open()) return complain("EGL offers no OpenGL context to draw off-screen with");
     Canvas canvas;
     if (std::string const error = canvas.Create(shape_of(options)); !error.empty()) return complain(error);
-    if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     init_gl();
     kore::Demo demo(beat_seconds);
     init_demo(demo, nullptr, beat_seconds);

@@ -31,47 +31,52 @@ bool read_text(std::string const& value, std::string& text) {
     return !value.empty();
 }
 
-void add_options(CLI::App& app, RecordOptions& options) {
-    using Value = std::string const&;
-    // clang-format off
-    add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
-              "a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths",
-              "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
-    app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
-    add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
-              "Write each picture to DIR/beat_012.400.png; DIR is created if necessary");
-    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet) && is_png_name(v); },
-              "a path that ends in .png",
-              "Write a contact sheet of the pictures");
+using Value = std::string const&;
+
+// clang-format off
+
+/// Of pictures and films.
+void add_drawing_options(CLI::App& app, RecordOptions& options) {
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
-              "a scene's name; --list shows them",
-              "Count the beats from the start of this scene; the files are called NAME_012.400.png");
-    app.add_flag("--frame-after", options.frame_after,
-                 "Also take the frame after each, ending in \"b\": strobes last one frame");
+              "a scene's name; --list shows them", "Count beats from the start of this scene; a film is of it alone");
     add_value(app, "--size", "WxH", [&](Value v) { return read_size(v, options); },
               "a size such as 1024x768, up to 8192x8192",
-              "Size of a picture in pixels (1024x768; of films 1920x1080, of .gif and .webp 512x384)");
+              "Size in pixels (1024x768; of films 1920x1080, of .gif and .webp 512x384)");
+    app.add_flag_callback("--stretch", [&] { options.stretch = true; }, "Fill sizes that are not 4:3")
+        ->trigger_on_parse();
+    app.add_flag_callback("--letterbox", [&] { options.stretch = false; }, "Leave black beside the show (default)")
+        ->trigger_on_parse();
     add_value(app, "--samples", "N", [&](Value v) { return read_number(v, 0u, most_samples, options.samples); },
               "a number from 0 to 64", "Samples per pixel (4)");
     add_value(app, "--supersample", "N",
               [&](Value v) { return read_number(v, 1u, most_supersample, options.supersample); },
               "a number from 1 to 16", "Draw so many times as wide and high, and average (1)");
-    app.add_flag_callback("--stretch", [&] { options.stretch = true; }, "Fill sizes that are not 4:3")
-        ->trigger_on_parse();
-    app.add_flag_callback("--letterbox", [&] { options.stretch = false; }, "Leave black beside the picture (default)")
-        ->trigger_on_parse();
-    add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
-              "a number from 1 to 100", "Pictures per row of the sheet (5)");
+    app.add_flag("--calm", options.calm, "The calm mode: held cuts instead of strobes");
     app.add_flag_callback("--wire", [&] { options.wire = true; },
                           "Draw the pulse wire by the OpenGL standard, on every driver (default)")
         ->trigger_on_parse();
     app.add_flag_callback("--no-wire", [&] { options.wire = false; }, "Leave it to the driver, as the program does")
         ->trigger_on_parse();
-    app.add_flag("--calm", options.calm, "The calm mode: held cuts instead of strobes");
     app.add_flag("--list", options.list, "List the scenes, their first beats and lengths");
-    // clang-format on
-    add_film_options(app, options.film);
 }
+
+void add_picture_options(CLI::App& app, RecordOptions& options) {
+    app.option_defaults()->group("Pictures");
+    add_value(app, "--beats", "LIST", [&](Value v) { return read_beats(v, options.beats); },
+              "a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths",
+              "Beats of the show: 0.5,3.25 or 0:16:0.5 (from, to, step; the end is left out)");
+    app.add_flag("--overview", options.overview, "Five moments of every scene, instead of --beats");
+    app.add_flag("--frame-after", options.frame_after,
+                 "Also take the frame after each, ending in \"b\": strobes last one frame");
+    add_value(app, "--out", "DIR", [&](Value v) { return read_text(v, options.folder); }, "a path",
+              "Write each picture to DIR/beat_012.400.png, of a scene NAME_012.400.png");
+    add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet) && is_png_name(v); },
+              "a path that ends in .png", "Write a contact sheet of the pictures");
+    add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
+              "a number from 1 to 100", "Pictures per row of the sheet (5)");
+}
+
+// clang-format on
 
 std::string picture_fault(RecordOptions const& options) {
     if (options.beats.empty() && !options.overview) return "no beats to record, see --beats; nor a film, see --film";
@@ -110,12 +115,14 @@ void complete(RecordOptions& options, FilmFormat const* format) {
 int complain(std::string const& message) { return complain(recorder_name, message); }
 
 std::optional<int> read_command_line(int argc, char const* const* argv, RecordOptions& options) {
-    CLI::App app("Takes pictures of Hard Silence: PNG files of its frames at given beats, drawn off-screen.",
-                 recorder_name);
-    app.footer("The show is stepped at 60 frames a second; a beat's picture is the first frame at or after it\n"
-               "on which the show has counted the beat.");
+    CLI::App app("Makes films of Hard Silence, and pictures of it, drawn off-screen.", recorder_name);
+    app.footer(
+        "A film of the whole show lasts as long as the music. Pictures are taken at 60 frames a second; a beat's\n"
+        "picture is the first frame at or after it on which the show has counted the beat.");
     set_up(app);
-    add_options(app, options);
+    add_drawing_options(app, options);
+    add_picture_options(app, options);
+    add_film_options(app, options.film);
     if (auto const status = read_arguments(app, argc, argv)) return status;
     FilmFormat const* const format = find_format(options.film.file);
     complete(options, format);

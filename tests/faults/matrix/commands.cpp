@@ -1,7 +1,7 @@
 #include "tests/faults/matrix/commands.h"
 
 #include "tests/support/command.h"
-#include "tests/window/xscreen.h"
+#include "tests/window/playing.h"
 
 #include <algorithm>
 #include <csignal>
@@ -16,6 +16,14 @@ namespace {
 XScreen& own_screen() {
     static XScreen screen;
     return screen;
+}
+
+bool moves_in_time(XScreen const& screen) {
+    auto const until = std::chrono::steady_clock::now() + at_once;
+    while (!window::moves(screen)) {
+        if (std::chrono::steady_clock::now() > until) return false;
+    }
+    return true;
 }
 
 /// The command in a shell that does what comes before, and then becomes the program.
@@ -71,12 +79,14 @@ std::string play_complaint(Command command, Play const& play) {
     command.environment.push_back("DISPLAY=" + own_display());
     Process process(with_shell(command), command.environment, command.folder);
     if (!own_screen().FindShow()) return "no picture: " + shown(process.Error());
-    std::this_thread::sleep_for(std::chrono::milliseconds(250)); // some frames
+    std::this_thread::sleep_for(play.time);
     if (!process.Running()) return "ended: " + shown(process.Error());
+    if (!moves_in_time(own_screen())) return "the picture stands: " + shown(process.Error());
     process.Signal(play.signal);
     auto const status = process.Wait(at_once);
     if (!status) return "does not end: " + shown(process.Error());
     if (*status != play.status) return "status " + std::to_string(*status) + ": " + shown(process.Error());
+    if (process.Output().find(play.prints) == std::string::npos) return "prints " + shown(process.Output());
     return what_was_said(process.Error(), play.most_lines, false, play.says);
 }
 

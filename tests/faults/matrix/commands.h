@@ -42,13 +42,15 @@ Cell ends(std::string name, Command command, End end = {});
 
 /// How a show must play.
 struct Play {
-    int most_lines = 0;    ///< on standard error
-    std::string says = {}; ///< in one of them
-    int signal = 15;       ///< that ends it
-    int status = 0;        ///< that it ends with
+    int most_lines = 1;      ///< on standard error; the window library has one where vertical sync cannot be had
+    std::string says = {};   ///< in one of them
+    std::string prints = {}; ///< on standard output, among others
+    int signal = 15;         ///< that ends it
+    int status = 0;          ///< that it ends with
+    std::chrono::milliseconds time{300}; ///< that it plays for
 };
 
-/// Runs the show on a screen of the worker's own until its window is there and it has drawn for a moment, and ends it.
+/// Runs the show on a screen of the worker's own until its window is there and its picture moves, and ends it.
 /// @return "" if it plays like that; else what is wrong
 std::string play_complaint(Command command, Play const& play);
 

@@ -7,5 +7,9 @@ std::vector<faults::Group> faults::all_groups() {
         {"videomode", "the desktop's video mode after the show's end, of every kind", videomode_cells, true},
         {"screens", "displays and drivers that are missing or poor", screen_cells},
         {"servers", "X servers that die, stop or never answer", server_cells},
+        {"sound", "sound that is missing, fails or never answers", sound_cells},
+        {"soundtrack", "a soundtrack that is none", soundtrack_cells},
+        {"streams", "standard streams that are closed, full or unread", stream_cells},
+        {"limits", "too few files and threads, too little memory", limit_cells},
     };
 }

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
@@ -46,7 +45,6 @@ Tally try_group(faults::Group const& group) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGPIPE, SIG_IGN);
     auto const groups = faults::all_groups();
     bool const list = argc == 2 && std::strcmp(argv[1], "--list") == 0;
     Tally sum;

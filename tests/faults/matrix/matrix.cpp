@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <fcntl.h>
 #include <iostream>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -19,7 +20,7 @@ namespace {
 
 struct Pipe {
     Pipe() {
-        if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
+        if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
     }
     std::array<int, 2> ends{};
 };

@@ -35,5 +35,9 @@ std::vector<Cell> signal_cells();
 std::vector<Cell> videomode_cells();
 std::vector<Cell> screen_cells();
 std::vector<Cell> server_cells();
+std::vector<Cell> sound_cells();
+std::vector<Cell> soundtrack_cells();
+std::vector<Cell> stream_cells();
+std::vector<Cell> limit_cells();
 
 } // namespace faults

@@ -95,10 +95,30 @@ void add_poor_displays(std::vector<Cell>& cells) {
     }
 }
 
+/// A driver of which one call goes wrong: in the question that is asked before the window is opened.
+void add_bad_calls(std::vector<Cell>& cells) {
+    for (std::string const call :
+         {"glXChooseVisual", "glXCreateContext", "glXMakeCurrent", "glGetString", "glGenLists", "glIsList"}) {
+        for (std::string const way : {"fails", "crashes", "aborts", "hangs"}) {
+            char const* const says = way == "fails"   ? "This display"
+                                     : way == "hangs" ? "does not answer."
+                                                      : "it crashed.";
+            cells.push_back({call + ' ' + way, [call, way, says] {
+                                 Words const environment = {"DISPLAY=" + own_display(),
+                                                            "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY, "BAD_CALL=" + call,
+                                                            "BAD_WAY=" + way};
+                                 return end_complaint({.arguments = small_show(), .environment = environment},
+                                                      {.says = says, .within = 2 * at_once});
+                             }});
+        }
+    }
+}
+
 } // namespace
 
 std::vector<Cell> screen_cells() {
     std::vector<Cell> cells;
+    add_bad_calls(cells);
     add_missing_displays(cells);
     add_poor_displays(cells);
     return cells;

@@ -1,16 +1,13 @@
 // X servers that die, stop or never answer.
 
 #include "tests/faults/matrix/commands.h"
-#include "tests/window/xscreen.h"
+#include "tests/faults/matrix/silentserver.h"
+#include "tests/window/process.h"
 
-#include <array>
 #include <csignal>
 #include <cstring>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
+#include <filesystem>
 #include <thread>
-#include <unistd.h>
 
 namespace faults {
 
@@ -76,67 +73,25 @@ std::string stops_after(milliseconds time, int signal) {
     return *status == 0 || *status == 128 + signal ? "" : "status " + std::to_string(*status) + shown(process.Error());
 }
 
-/// A server that takes connections, and does something else than a server of X does.
-class Impostor {
-public:
-    Impostor(int number, std::string answer) : name(folder_of(number)), my_answer(std::move(answer)) {
-        unlink(name.c_str());
-        listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        name.copy(address.sun_path, sizeof address.sun_path - 1);
-        bind(listener, reinterpret_cast<sockaddr const*>(&address), sizeof address);
-        listen(listener, 5);
-        answering = std::thread([this] { Answer(); });
-    }
-    ~Impostor() {
-        shutdown(listener, SHUT_RDWR);
-        answering.join();
-        close(listener);
-        unlink(name.c_str());
-    }
-    Impostor(Impostor const&) = delete;
-    Impostor& operator=(Impostor const&) = delete;
-
-private:
-    static std::string folder_of(int number) {
-        [[maybe_unused]] int const made = mkdir("/tmp/.X11-unix", 01777);
-        return "/tmp/.X11-unix/X" + std::to_string(number);
-    }
-    void Answer() const {
-        std::vector<int> connections;
-        for (int one = 0; (one = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
-            connections.push_back(one);
-            std::array<char, 64> greeting{};
-            [[maybe_unused]] ssize_t const got = read(one, greeting.data(), greeting.size());
-            if (my_answer == "close") {
-                close(one);
-                connections.pop_back();
-            } else if (!my_answer.empty()) {
-                [[maybe_unused]] ssize_t const sent = write(one, my_answer.data(), my_answer.size());
-            }
-        }
-        for (int const one : connections) close(one);
-    }
-
-    std::string name;
-    std::string my_answer;
-    int listener = -1;
-    std::thread answering;
-};
+/// Where a server of this number has its socket.
+std::string socket_of(int number) {
+    std::filesystem::create_directory("/tmp/.X11-unix");
+    return "/tmp/.X11-unix/X" + std::to_string(number);
+}
 
 struct Stranger {
     char const* name;
     std::string answer;
+    bool hangs_up;
     char const* says;
 };
 
 std::vector<Stranger> const strangers = {
-    {"never answers", "", "The display does not answer."},
-    {"hangs up", "close", "Cannot open the display."},
-    {"speaks another language", std::string(4096, 'x'), "isplay"},
-    {"answers with noughts", std::string(4096, '\0'), "isplay"},
-    {"refuses", std::string("\0\4\13\0\0\0\1\0none", 12), "Cannot open the display."},
+    {"never answers", "", false, "The display does not answer."},
+    {"hangs up", "", true, "Cannot open the display."},
+    {"speaks another language", std::string(4096, 'x'), false, "isplay"},
+    {"answers with noughts", std::string(4096, '\0'), false, "isplay"},
+    {"refuses", std::string("\0\4\13\0\0\0\1\0none", 12), false, "Cannot open the display."},
 };
 
 void add_strangers(std::vector<Cell>& cells) {
@@ -145,7 +100,7 @@ void add_strangers(std::vector<Cell>& cells) {
         for (std::string const setting : {"HARDSILENCE_DESKTOP", "HARDSILENCE_DESKTOP=1", "HARDSILENCE_MONITOR=list"}) {
             ++number;
             cells.push_back({stranger.name + (", " + setting), [&stranger, setting, number] {
-                                 Impostor const impostor(number, stranger.answer);
+                                 SilentServer const server(socket_of(number), stranger.answer, stranger.hangs_up);
                                  Process process(small_show(), {"DISPLAY=:" + std::to_string(number), setting});
                                  return ends_with_a_line(process, stranger.says);
                              }});

@@ -1,8 +1,12 @@
 #include "tools/files/streams.h"
 
+#include "runtime/streams.h"
 #include "tests/support/command.h"
 #include "tests/support/temp.h"
 
+#include <csignal>
+#include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -95,6 +99,31 @@ TEST(Streams, WhatAToolThrowsIsOneLine) {
     EXPECT_EQ(end([] { return 0; }).status, 0);
     EXPECT_EQ(end([] { return 7; }).status, 7);
 }
+
+#ifndef __SANITIZE_ADDRESS__
+TEST(Streams, ACrashIsOneLineAndItsSignal) {
+    for (int const signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) {
+        Outcome const end = support::run_in_child([=] {
+            return run_tool("tool", [=] {
+                QuietStandardError const quiet;
+                std::cerr << "noise" << std::endl;
+                return std::raise(signal);
+            });
+        });
+        EXPECT_EQ(end.signal, signal);
+        EXPECT_EQ(end.error,
+                  "tool: ended by signal " + std::to_string(signal) + ", a fault of its own or of a library\n");
+    }
+    Outcome const real = support::run_in_child([] {
+        return run_tool("tool", [] {
+            char const* volatile const nowhere = nullptr;
+            return static_cast<int>(std::strlen(nowhere));
+        });
+    });
+    EXPECT_EQ(real.signal, SIGSEGV);
+    EXPECT_EQ(real.error, "tool: ended by signal 11, a fault of its own or of a library\n");
+}
+#endif
 
 TEST(Streams, TheLimitOnFileSizesIsAnError) {
     support::TempFolder const folder;

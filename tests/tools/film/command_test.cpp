@@ -1,5 +1,7 @@
 #include "tools/film/command.h"
 
+#include "tests/support/command.h"
+
 #include <algorithm>
 #include <gmock/gmock.h>
 
@@ -77,6 +79,22 @@ TEST(EncoderCommands, WarnOfTheStrobes) {
     EXPECT_THAT(encoder_command(part), Contains(testing::StartsWith("comment=Warning: this show strobes heavily")));
     EXPECT_THAT(encoder_command(calm), Contains("comment=The calm mode: held cuts instead of strobes."));
     EXPECT_THAT(encoder_command(calm), Not(Contains(testing::HasSubstr("Warning"))));
+}
+
+TEST(EncoderCommands, AreToldToScriptsInPieces) {
+    EncoderTask task = part;
+    task.music = "/it's/m.ogg";
+    auto const script = support::run({"bash", "-c", encoder_script(task, "/it's") + R"(
+        echo "$frames $rate $size $home"
+        printf '<%s>' ffmpeg "${sound[@]:0:8}" "${tags[@]}" "${video[@]}" "${sound[@]:8}")"});
+    auto const command = encoder_command(task);
+    auto const second_input = std::ranges::find(std::ranges::find(command, "pipe:0"), command.end(), "-i");
+    std::string expected = "100:160 60 64x48 /it's\n<ffmpeg>";
+    for (auto word = second_input; word != std::prev(command.end()); ++word) expected += "<" + *word + ">";
+    EXPECT_EQ(script.output, expected);
+    EXPECT_EQ(script.error, "");
+    task.music = "";
+    EXPECT_THAT(encoder_script(task, "/"), testing::HasSubstr("\nsound=()\n"));
 }
 
 TEST(EncoderCommands, SplitArgumentsAtSpacesOutsideQuotes) {

@@ -1,62 +1,21 @@
-// Films as the recorder makes them: its streams, its files and its messages. Small pictures of one sample, so that it
-// is quick.
+// What the recorder writes of films, and its messages.
 
-#include "tests/support/command.h"
-#include "tests/support/temp.h"
+#include "tests/tools/film/filmtest.h"
+#include "tests/window/process.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <gmock/gmock.h>
-#include <random>
-#include <sstream>
+#include <thread>
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 using support::Outcome;
+using testing::HasSubstr;
 
 namespace {
-
-constexpr std::size_t frame_bytes = std::size_t{3} * 64 * 48;
-
-class Film : public testing::Test {
-protected:
-    /// Runs the recorder in a folder of its own.
-    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {}) const {
-        return support::run_shell("'" HARDSILENCE_BINARY_DIR "/hardsilence-record' --size 64x48 --samples 0 " +
-                                      arguments,
-                                  {.folder = folder.Path(""), .environment = environment});
-    }
-
-    /// The digest of each frame, with its number.
-    std::vector<std::string> Digests(std::string const& arguments) const {
-        Outcome const outcome = Record("--md5 " + arguments);
-        EXPECT_EQ(outcome.status, 0) << arguments;
-        EXPECT_EQ(outcome.error, "");
-        return Lines(outcome.output);
-    }
-
-    /// Those of a file, as ffmpeg prints them; it counts from 0.
-    std::vector<std::string> DigestsOf(std::string const& file) const {
-        return Lines(Shell("ffmpeg -v error -i " + file + " -map 0:v -pix_fmt rgb24 -f framemd5 -").output);
-    }
-
-    Outcome Shell(std::string const& line) const { return support::run_shell(line, {.folder = folder.Path("")}); }
-
-    std::string In(std::string const& file) const { return folder.Path(file); }
-
-    static std::vector<std::string> Lines(std::string const& text) {
-        std::istringstream stream(text);
-        std::vector<std::string> lines;
-        for (std::string line; std::getline(stream, line);) {
-            if (!line.starts_with('#')) lines.push_back(line);
-        }
-        return lines;
-    }
-
-    support::TempFolder const folder;
-};
-
-/// The digest alone, without the frame's number.
-std::string digest(std::string const& line) { return line.substr(line.rfind(' ') + 1); }
 
 /// Both channels of a sound, in turn.
 /// @param from, count  samples of one channel
@@ -70,25 +29,6 @@ std::vector<sf::Int16> samples(std::string const& file, std::size_t from, std::s
 }
 
 } // namespace
-
-TEST_F(Film, IsTheSameWholeInPartsAndInAnyNumberOfProcesses) {
-    std::string const whole = "--from 12 --to 16";
-    auto const expected = Digests(whole);
-    EXPECT_EQ(expected.size(), 109u);
-    EXPECT_EQ(Digests(whole), expected) << "another run";
-    EXPECT_EQ(Digests(whole + " --jobs 1"), expected);
-    EXPECT_EQ(Digests(whole + " --jobs 3"), expected);
-    std::mt19937 random(1);
-    std::vector<std::string> parts;
-    for (unsigned int from = 328; from < 437;) {
-        unsigned int const to = std::min<unsigned int>(437, from + 1 + random() % 40);
-        for (std::string const& line : Digests("--frames " + std::to_string(from) + ":" + std::to_string(to))) {
-            parts.push_back(line);
-        }
-        from = to;
-    }
-    EXPECT_EQ(parts, expected);
-}
 
 TEST_F(Film, DigestsAreThoseOfTheBarePixels) {
     Outcome const raw = Record("--raw - --frames 340:343");
@@ -178,4 +118,67 @@ TEST_F(Film, FaultsGetOneLineAndStatusOne) {
     for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
         EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
     }
+}
+
+TEST_F(Film, SaysSoWhereItsOutputIsClosed) {
+    for (char const* const stream : {"--raw -", "--y4m -", "--md5"}) {
+        std::string const status = In("status");
+        Outcome const outcome =
+            support::run_shell(std::string("('" HARDSILENCE_BINARY_DIR "/hardsilence-record' --size 640x480 ") +
+                               stream + "; echo $? >'" + status + "') | head -c 2000 >'" + In("head") + "'");
+        EXPECT_EQ(outcome.error, "hardsilence-record: cannot write to standard output: Broken pipe\n") << stream;
+        EXPECT_EQ(support::read_all(status), "1\n");
+        EXPECT_EQ(support::read_all(In("head")).size(), 2000u);
+    }
+}
+
+TEST_F(Film, SaysSoWhereThereIsNoFfmpeg) {
+    Outcome const outcome = Record("--film a.mp4 --frames 0:3", {"PATH=/nowhere"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.error, "hardsilence-record: films are made by ffmpeg, which is not installed; --raw and --y4m do "
+                             "without\n");
+    EXPECT_TRUE(fs::is_empty(In("")));
+}
+
+TEST_F(Film, ShowsProgressAndTheWarningOnATerminal) {
+    auto const on_terminal = [&](std::string const& arguments) {
+        return Shell("script -qec \"'" HARDSILENCE_BINARY_DIR "/hardsilence-record' --size 64x48 --samples 0 " +
+                     arguments + "\" /dev/null </dev/null")
+            .output;
+    };
+    std::string const shown = on_terminal("--film a.mkv --frames 0:30");
+    EXPECT_THAT(shown, HasSubstr("Warning: this show strobes heavily"));
+    EXPECT_THAT(shown, HasSubstr("[########################] 30 of 30 frames"));
+    std::string const calm = on_terminal("--film a.mkv --frames 0:30 --calm");
+    EXPECT_THAT(calm, testing::Not(HasSubstr("Warning")));
+    EXPECT_THAT(calm, HasSubstr("30 of 30 frames"));
+    EXPECT_THAT(on_terminal("--md5 --frames 0:3 >/dev/null"), testing::Not(HasSubstr("Warning"))) << "not a film";
+}
+
+TEST_F(Film, StopsWithinASecondAndLeavesNothing) {
+    for (int const number : {SIGINT, SIGTERM}) {
+        folder.Write("a.mp4", "the old film");
+        Process recorder({HARDSILENCE_BINARY_DIR "/hardsilence-record", "--film", In("a.mp4"), "--size", "640x480"});
+        auto const in_folder = [&] { return std::distance(fs::directory_iterator(In("")), fs::directory_iterator()); };
+        for (int i = 0; i < 1000 && in_folder() < 2; ++i) std::this_thread::sleep_for(10ms); // until it films
+        std::this_thread::sleep_for(1s);
+        ASSERT_TRUE(recorder.Running()) << recorder.Error();
+        recorder.Signal(number);
+        EXPECT_EQ(recorder.Wait(1s), 128 + number);
+        EXPECT_THAT(recorder.Error(),
+                    testing::MatchesRegex("hardsilence-record: stopped after [0-9]+ of 10712 frames; nothing of the "
+                                          "film is kept, but tools/farm can go on with a film\n"));
+        EXPECT_EQ(support::read_all(In("a.mp4")), "the old film");
+        EXPECT_EQ(in_folder(), 1) << "nothing beside it";
+    }
+}
+
+TEST_F(Film, ReachesALateFrameByLogicAlone) {
+    auto const seconds = [&](std::string const& frames) {
+        auto const start = std::chrono::steady_clock::now();
+        EXPECT_EQ(Digests("--jobs 1 --frames " + frames).size(), 1u);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    };
+    double const early = seconds("0:1");
+    EXPECT_LT(seconds("10000:10001") - early, 1) << "10000 frames are skipped within a second";
 }

@@ -83,6 +83,8 @@ TEST(FilmOptions, FaultsGetOneLineAndStatusOne) {
         {{"--md5", "--from", "2", "--to", "2"},               "--from lies at or after --to"},
         {{"--md5", "--from", "-1"},                           "--from: '-1' is not a number of beats such as 12.4"},
         {{"--md5", "--encoder", "x"},                         "--encoder is for --film"},
+        {{"--md5", "--plan"},                                 "--plan is for --film alone"},
+        {{"--film", "a.mkv", "--md5", "--plan"},              "--plan is for --film alone"},
         {{"--md5", "--jobs", "0"},                            "--jobs: '0' is not a number from 1 to 64"},
         {{"--md5", "--supersample", "17"},                    "--supersample: '17' is not a number from 1 to 16"},
         {{"--md5", "--beats", "1"},                           "either pictures or a film"},
@@ -102,9 +104,9 @@ TEST(FilmOptions, FaultsGetOneLineAndStatusOne) {
 TEST(FilmOptions, AreInTheHelp) {
     Outcome const outcome = read({"--help"});
     for (char const* const name :
-         {"--film FILE", "--raw -", "--y4m -", "--md5", "--fps RATE", "--from BEAT", "--to BEAT", "--frames A:B",
-          "--encoder ARGS", "--no-sound", "--jobs N", "--supersample N", "--stretch", "--letterbox"}) {
+         {"--film FILE", "--raw -", "--y4m -", "--md5", "--plan", "--fps RATE", "--from BEAT", "--to BEAT",
+          "--frames A:B", "--encoder ARGS", "--no-sound", "--jobs N", "--supersample N", "--stretch", "--letterbox"}) {
         EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + name));
     }
-    EXPECT_THAT(outcome.out, HasSubstr("Strobes")) << "which flicker at another speed at another rate";
+    EXPECT_THAT(outcome.out, HasSubstr("Strobes flicker per frame"));
 }
