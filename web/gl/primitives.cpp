@@ -18,7 +18,8 @@ constexpr bool is_primitive(GLenum mode) {
 Color channel(float value) {
     // Written so that what is not a number becomes 0.
     float const shown = value > 0 ? std::min(value, 1.0f) : 0.0f;
-    return static_cast<Color>(shown * 255 + 0.5f);
+    constexpr float half = 0.5f;
+    return static_cast<Color>(shown * 255 + half);
 }
 
 /// Between glBegin and glEnd vertices go straight to their place; elsewhere they take the long way.
