@@ -228,6 +228,23 @@ TEST_F(FrontDoor, HandsAllThatFollowsRecordToTheRecorder) {
     EXPECT_EQ(output, "hardsilence-record --calm --list\nHARDSILENCE_CALM=1\n");
 }
 
+TEST_F(FrontDoor, BuildsAndServesThePageForBrowsers) {
+    Give("checkout/tools/web", "#!/bin/bash\necho \"web $*\"\n");
+    Run({"--web"}, {"DISPLAY"});
+    EXPECT_EQ(status, 0) << error;
+    EXPECT_EQ(output, "Building the page; this takes minutes the first time.\nweb --serve\n");
+    EXPECT_EQ(Log(), "");
+    for (auto const& arguments : {std::vector<std::string>{"--web", "-fps"}, {"-fps", "--web"}}) {
+        Run(arguments);
+        EXPECT_EQ(status, 1);
+        EXPECT_EQ(error, "play: --web takes no other options; see --help\n");
+    }
+    fs::remove(At("checkout/tools/web"));
+    Run({"--web"});
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(error, "play: --web takes the checkout; see --help\n");
+}
+
 TEST_F(FrontDoor, BuildsInTheCacheWhereTheCheckoutIsReadOnly) {
     static_cast<void>(folder.Write("checkout/build", "no folder can be made here"));
     Run({});

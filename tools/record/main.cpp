@@ -144,6 +144,10 @@ int record(RecordOptions options) {
     if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
+    if (!options.folder.empty()) {
+        std::string const error = refuse_size("a picture", {options.width, options.height});
+        if (!error.empty()) return complain(error);
+    }
     if (!options.sheet.empty()) {
         PictureSize const size = sheet_size(shots.size(), options.columns, {options.width, options.height});
         if (std::string const error = refuse_size("the sheet", size); !error.empty()) return complain(error);

@@ -112,7 +112,9 @@ async function prepare({ wasm, files, music }) {
     controls = new Controls(element("player"), player, sound, engine);
     player.addEventListener("end", leave);
     controls.addEventListener("leave", leave);
-    player.addEventListener("silent", () => notice("There is no sound device. The show plays without."));
+    player.addEventListener("silent", () =>
+        notice("No sound comes out: there is no device for it, or the browser holds it back. The show plays without."),
+    );
     player.addEventListener("lost", () => notice("The graphics driver took the picture away. It comes back by itself."));
     player.addEventListener("restored", () => notice(""));
     if (settings.has("stats")) {
@@ -137,7 +139,7 @@ function leave() {
 function main() {
     const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
     doors[Number(calm)].button.classList.add("preselected");
-    doors[Number(calm)].button.focus({ focusVisible: calm });
+    doors[Number(calm)].button.focus({ focusVisible: calm, preventScroll: true });
     try {
         loads = load();
     } catch (error) {
