@@ -199,6 +199,8 @@ TEST_F(FrontDoor, TellsHelpAndVersionWithoutInstallingOrCompiling) {
         EXPECT_EQ(status, 0);
         EXPECT_THAT(output, StartsWith("usage: play [option...]\n"));
         EXPECT_THAT(output, HasSubstr("-width X"));
+        EXPECT_THAT(output, HasSubstr("Exit status: 0 done; 1 refused or failed, with one line that tells why; "
+                                      "128+n ended by signal n.\n"));
         EXPECT_EQ(error, "");
     }
     Run({"--version"}, {"DISPLAY", "INSTALLED="});
@@ -224,6 +226,23 @@ TEST_F(FrontDoor, HandsAllThatFollowsRecordToTheRecorder) {
     EXPECT_THAT(Log(), HasSubstr("--target hardsilence-record "));
     Run({"--calm", "--record", "--list"});
     EXPECT_EQ(output, "hardsilence-record --calm --list\nHARDSILENCE_CALM=1\n");
+}
+
+TEST_F(FrontDoor, BuildsAndServesThePageForBrowsers) {
+    Give("checkout/tools/web", "#!/bin/bash\necho \"web $*\"\n");
+    Run({"--web"}, {"DISPLAY"});
+    EXPECT_EQ(status, 0) << error;
+    EXPECT_EQ(output, "Building the page; this takes minutes the first time.\nweb --serve\n");
+    EXPECT_EQ(Log(), "");
+    for (auto const& arguments : {std::vector<std::string>{"--web", "-fps"}, {"-fps", "--web"}}) {
+        Run(arguments);
+        EXPECT_EQ(status, 1);
+        EXPECT_EQ(error, "play: --web takes no other options; see --help\n");
+    }
+    fs::remove(At("checkout/tools/web"));
+    Run({"--web"});
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(error, "play: --web takes the checkout; see --help\n");
 }
 
 TEST_F(FrontDoor, BuildsInTheCacheWhereTheCheckoutIsReadOnly) {

@@ -122,9 +122,9 @@ public:
     void Delete(Mesh& mesh);
 
     void SetLineWidth(float pixels);
-    void ScaleLines(float factor);                   ///< widths from now on
-    void SetViewport(GLsizei width, GLsizei height); ///< pixels
-    void SetTextured(bool on);                       ///< by the first texel of the texture that is bound
+    void ScaleLines(float factor);                ///< widths from now on
+    void SetViewport(GLsizei wide, GLsizei high); ///< pixels
+    void SetTextured(bool on);                    ///< by the first texel of the texture that is bound
 
 private:
     struct Uniforms {

@@ -59,7 +59,7 @@ void Compiler::End() {
     std::size_t const count = list.corners.size() - pending.first;
     Primitive p{pending.mode, pending.first, count, pending.refused, {}};
     if (elements_of(p.mode, count) >= long_elements) {
-        p.mesh = drawing.Keep(p.mode, {list.corners.data() + p.first, count});
+        p.mesh = state.drawing.Keep(p.mode, {list.corners.data() + p.first, count});
     }
     list.commands.push_back({primitive, {static_cast<double>(list.primitives.size())}});
     list.primitives.push_back(p);
@@ -86,9 +86,12 @@ void Compiler::Settle() {
 
 List Compiler::Finish() {
     Settle();
-    list.commands.shrink_to_fit();
-    list.corners.shrink_to_fit();
-    return std::move(list);
+    List finished = list; // of the right size
+    list.commands.clear();
+    list.primitives.clear();
+    list.corners.clear();
+    pending = {};
+    return finished;
 }
 
 } // namespace fixedgl

@@ -39,8 +39,6 @@ struct List {
 /// Writes a list, call by call.
 class Compiler {
 public:
-    explicit Compiler(Drawing& drawing_) : drawing(drawing_) {}
-
     void Begin(GLenum mode);
     void Vertex(float x, float y, float z);
     void End();
@@ -49,6 +47,7 @@ public:
     /// @param everywhere  whether it is also allowed between glBegin and glEnd
     void Add(Command const& command, bool everywhere);
 
+    /// Ends the list; the next one may begin.
     /// @return what was written
     List Finish();
 
@@ -63,8 +62,7 @@ private:
         bool refused = false;
     };
 
-    Drawing& drawing;
-    List list;
+    List list; ///< its room is used again for the next one
     Pending pending;
 };
 

@@ -18,7 +18,8 @@ constexpr bool is_primitive(GLenum mode) {
 Color channel(float value) {
     // Written so that what is not a number becomes 0.
     float const shown = value > 0 ? std::min(value, 1.0f) : 0.0f;
-    return static_cast<Color>(shown * 255 + 0.5f);
+    constexpr float half = 0.5f;
+    return static_cast<Color>(shown * 255 + half);
 }
 
 /// Between glBegin and glEnd vertices go straight to their place; elsewhere they take the long way.
@@ -136,7 +137,7 @@ void glNewList(GLuint list, GLenum mode) {
     if (state.compiler) return raise(GL_INVALID_OPERATION);
     if (list >= most_names) return raise(GL_OUT_OF_MEMORY);
     if (list >= state.lists.size()) state.lists.resize(std::size_t{list} + 1);
-    state.compiler = std::make_unique<Compiler>(state.drawing);
+    state.compiler = &state.the_compiler;
     state.compiling = list;
     state.busy = true;
 }
@@ -147,7 +148,7 @@ void glEndList() {
     erase(list);
     list = state.compiler->Finish();
     list.reserved = true;
-    state.compiler.reset();
+    state.compiler = nullptr;
     state.busy = false;
 }
 

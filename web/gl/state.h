@@ -3,7 +3,6 @@
 #include "web/gl/lists.h"
 
 #include <array>
-#include <memory>
 
 /// The state that the entry points share. Not for users of the layer.
 namespace fixedgl {
@@ -48,8 +47,9 @@ struct State {
     bool moved = false;
 
     std::vector<List> lists; ///< by name; 0 is none
-    std::unique_ptr<Compiler> compiler;
-    GLuint compiling = 0; ///< name of the list
+    Compiler the_compiler;
+    Compiler* compiler = nullptr; ///< null while no list is compiled
+    GLuint compiling = 0;         ///< name of the list
     int nesting = 0;
 
     Attributes attributes;

@@ -11,15 +11,15 @@ namespace {
 
 constexpr std::size_t first_corners = 4096; // room for a primitive's, before it grows
 
-Driver const& driver() { return state.drawing.GL(); }
+Driver const& gl() { return state.drawing.GL(); }
 
 /// The driver, with everything drawn by its state so far.
-Driver const& driver_after_flush() {
+Driver const& gl_after_flush() {
     state.drawing.Flush();
-    return driver();
+    return gl();
 }
 
-void switch_on(GLenum capability, bool on) { on ? driver().Enable(capability) : driver().Disable(capability); }
+void switch_on(GLenum capability, bool on) { on ? gl().Enable(capability) : gl().Disable(capability); }
 
 void set_capability(GLenum capability, bool on) {
     switch (capability) {
@@ -46,9 +46,9 @@ void set_capability(GLenum capability, bool on) {
 
 void restore_color_buffer(Attributes const& kept) {
     switch_on(GL_BLEND, kept.blend);
-    driver().BlendFunc(kept.blend_factors[0], kept.blend_factors[1]);
+    gl().BlendFunc(kept.blend_factors[0], kept.blend_factors[1]);
     auto const& c = kept.clear_color;
-    driver().ClearColor(c[0], c[1], c[2], c[3]);
+    gl().ClearColor(c[0], c[1], c[2], c[3]);
     state.attributes.blend = kept.blend;
     state.attributes.blend_factors = kept.blend_factors;
     state.attributes.clear_color = kept.clear_color;
@@ -56,7 +56,7 @@ void restore_color_buffer(Attributes const& kept) {
 
 void restore_scissors(Attributes const& kept) {
     switch_on(GL_SCISSOR_TEST, kept.scissor);
-    driver().Scissor(kept.box[0], kept.box[1], kept.box[2], kept.box[3]);
+    gl().Scissor(kept.box[0], kept.box[1], kept.box[2], kept.box[3]);
     state.attributes.scissor = kept.scissor;
     state.attributes.box = kept.box;
 }
@@ -72,10 +72,10 @@ void reset() {
 
 } // namespace
 
-bool open(Driver const& gl, Lines lines) {
+bool open(Driver const& driver, Lines lines) {
     reset();
-    if (!state.drawing.Open(gl, lines)) return false;
-    gl.GetIntegerv(GL_SCISSOR_BOX, state.attributes.box.data());
+    if (!state.drawing.Open(driver, lines)) return false;
+    driver.GetIntegerv(GL_SCISSOR_BOX, state.attributes.box.data());
     return true;
 }
 
@@ -114,27 +114,27 @@ void glClear(GLbitfield mask) {
     if (settled<glClear>(mask)) return;
     constexpr GLbitfield buffers = GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT;
     if (mask & ~(buffers | GL_ACCUM_BUFFER_BIT)) return raise(GL_INVALID_VALUE);
-    driver_after_flush().Clear(mask & buffers);
+    gl_after_flush().Clear(mask & buffers);
 }
 
 void glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
     if (settled<glClearColor>(r, g, b, a)) return;
     state.attributes.clear_color = {r, g, b, a};
-    driver().ClearColor(r, g, b, a);
+    gl().ClearColor(r, g, b, a);
 }
 
 void glClearDepth(GLclampd depth) {
-    if (!settled<glClearDepth>(depth)) driver().ClearDepthf(static_cast<float>(depth));
+    if (!settled<glClearDepth>(depth)) gl().ClearDepthf(static_cast<float>(depth));
 }
 
 void glDepthMask(GLboolean flag) {
-    if (!settled<glDepthMask>(flag)) driver_after_flush().DepthMask(flag);
+    if (!settled<glDepthMask>(flag)) gl_after_flush().DepthMask(flag);
 }
 
 void glBlendFunc(GLenum source, GLenum destination) {
     if (settled<glBlendFunc>(source, destination)) return;
     state.attributes.blend_factors = {source, destination};
-    driver_after_flush().BlendFunc(source, destination);
+    gl_after_flush().BlendFunc(source, destination);
 }
 
 void glHint(GLenum target, GLenum mode) {
@@ -157,14 +157,14 @@ void glViewport(GLint x, GLint y, GLsizei width, GLsizei height) {
     if (settled<glViewport>(x, y, width, height)) return;
     if (width < 0 || height < 0) return raise(GL_INVALID_VALUE);
     state.drawing.SetViewport(width, height);
-    driver().Viewport(x, y, width, height);
+    gl().Viewport(x, y, width, height);
 }
 
 void glScissor(GLint x, GLint y, GLsizei width, GLsizei height) {
     if (settled<glScissor>(x, y, width, height)) return;
     if (width < 0 || height < 0) return raise(GL_INVALID_VALUE);
     state.attributes.box = {x, y, width, height};
-    driver_after_flush().Scissor(x, y, width, height);
+    gl_after_flush().Scissor(x, y, width, height);
 }
 
 void glPushAttrib(GLbitfield mask) {
@@ -188,7 +188,7 @@ GLenum glGetError() {
     if (refused()) return GL_NO_ERROR;
     GLenum const error = state.error;
     state.error = GL_NO_ERROR;
-    return error != GL_NO_ERROR ? error : driver().GetError();
+    return error != GL_NO_ERROR ? error : gl().GetError();
 }
 
 } // extern "C"

@@ -27,14 +27,14 @@ struct Textures {
 
 Textures textures;
 
-Driver const& driver() { return state.drawing.GL(); }
+Driver const& gl() { return state.drawing.GL(); }
 
 /// The texture that is bound, made when it is first needed.
 Texture& bound() {
     Texture& texture = textures.all[textures.bound];
     if (texture.name == 0) {
-        driver().GenTextures(1, &texture.name);
-        driver().BindTexture(GL_TEXTURE_2D, texture.name);
+        gl().GenTextures(1, &texture.name);
+        gl().BindTexture(GL_TEXTURE_2D, texture.name);
     }
     return texture;
 }
@@ -47,7 +47,7 @@ void show() {
 
 void set_filter(GLenum name, GLint value) {
     if (name == GL_TEXTURE_MIN_FILTER) bound().wants_mipmaps = value != GL_NEAREST && value != GL_LINEAR;
-    driver().TexParameteri(GL_TEXTURE_2D, name, value);
+    gl().TexParameteri(GL_TEXTURE_2D, name, value);
 }
 
 bool is_plain_image(GLenum target, GLint components, GLenum format, GLenum type) {
@@ -63,7 +63,7 @@ void set_texturing(bool on) {
 }
 
 void delete_textures() {
-    for (auto const& [name, texture] : textures.all) driver().DeleteTextures(1, &texture.name);
+    for (auto const& [name, texture] : textures.all) gl().DeleteTextures(1, &texture.name);
     forget_textures();
 }
 
@@ -80,7 +80,7 @@ void glBindTexture(GLenum target, GLuint texture) {
     if (target != GL_TEXTURE_2D) return raise(GL_INVALID_ENUM);
     state.drawing.Flush();
     textures.bound = texture;
-    driver().BindTexture(GL_TEXTURE_2D, bound().name);
+    gl().BindTexture(GL_TEXTURE_2D, bound().name);
     show();
 }
 
@@ -104,7 +104,7 @@ void glTexImage2D(GLenum target, GLint level, GLint components, GLsizei width, G
     if (level != 0 || border != 0) return raise(GL_INVALID_VALUE);
     state.drawing.Flush();
     Texture& texture = bound();
-    driver().TexImage2D(target, 0, GL_RGB, width, height, 0, format, type, texels);
+    gl().TexImage2D(target, 0, GL_RGB, width, height, 0, format, type, texels);
     texture.has_image = true;
     texture.has_mipmaps = false;
     show();
@@ -114,7 +114,7 @@ GLint gluBuild2DMipmaps(GLenum target, GLint components, GLsizei width, GLsizei 
                         void const* texels) {
     glTexImage2D(target, 0, components, width, height, 0, format, type, texels);
     if (state.inside || !bound().has_image) return 0;
-    driver().GenerateMipmap(GL_TEXTURE_2D);
+    gl().GenerateMipmap(GL_TEXTURE_2D);
     bound().has_mipmaps = true;
     show();
     return 0;

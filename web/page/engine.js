@@ -1,7 +1,7 @@
 // The show itself, in WebAssembly: see show.cpp.
 
 import createShow from "./show.js";
-import { Trouble } from "./loader.js";
+import { Trouble, no_webgl } from "./loader.js";
 
 export class Engine {
     #module;
@@ -19,7 +19,9 @@ export class Engine {
             engine.#module = await createShow({ wasmBinary: wasm });
         } catch (error) {
             console.error(error);
-            throw new Trouble("This browser cannot run the show: it takes WebAssembly with SIMD, which browsers have had since 2023.");
+            throw new Trouble(
+                "This browser cannot run the show: it takes WebAssembly with SIMD, which browsers have had since 2023.",
+            );
         }
         engine.#addFiles(files);
         return engine;
@@ -52,7 +54,7 @@ export class Engine {
     /** Opens the canvas, for the first time or after its context came back. */
     openPicture() {
         if (this.#module._open_picture() !== 0) {
-            throw new Trouble("This browser offers no WebGL 2, which draws the show. Perhaps it is switched off, or the graphics driver is on the browser's blocklist.");
+            throw new Trouble(no_webgl);
         }
         this.#made = false;
     }

@@ -3,6 +3,10 @@
 /** Says to a viewer why the show cannot play. */
 export class Trouble extends Error {}
 
+export const no_webgl =
+    "This browser offers no WebGL 2, which draws the show. " +
+    "Perhaps it is switched off, or the graphics driver is on the browser's blocklist.";
+
 export class Loader {
     #sizes; // bytes of every file of the folder, by name
     #wanted = 0;
@@ -24,9 +28,12 @@ export class Loader {
         try {
             answer = await fetch(new URL(name, import.meta.url));
         } catch {
-            throw new Trouble(`The file ${name} cannot be reached. Is the network there? Reload the page to try again.`);
+            throw new Trouble(
+                `The file ${name} cannot be reached. Is the network there? Reload the page to try again.`,
+            );
         }
-        if (!answer.ok) throw new Trouble(`The file ${name} is missing (${answer.status}). Reload the page to try again.`);
+        if (!answer.ok)
+            throw new Trouble(`The file ${name} is missing (${answer.status}). Reload the page to try again.`);
         return answer;
     }
 

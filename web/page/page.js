@@ -2,7 +2,7 @@
 
 import { Controls } from "./controls.js";
 import { Engine } from "./engine.js";
-import { Loader, Trouble, unpack } from "./loader.js";
+import { Loader, Trouble, no_webgl, unpack } from "./loader.js";
 import { Player } from "./player.js";
 import { Sound } from "./sound.js";
 import { Stats } from "./stats.js";
@@ -40,7 +40,7 @@ function check_browser() {
         throw new Trouble("This browser is too old for the show, which takes one of 2023 or later.");
     }
     if (!document.createElement("canvas").getContext("webgl2")) {
-        throw new Trouble("This browser offers no WebGL 2, which draws the show. Perhaps it is switched off, or the graphics driver is on the browser's blocklist.");
+        throw new Trouble(no_webgl);
     }
 }
 
@@ -112,8 +112,14 @@ async function prepare({ wasm, files, music }) {
     controls = new Controls(element("player"), player, sound, engine);
     player.addEventListener("end", leave);
     controls.addEventListener("leave", leave);
-    player.addEventListener("silent", () => notice("There is no sound device. The show plays without."));
-    player.addEventListener("lost", () => notice("The graphics driver took the picture away. It comes back by itself."));
+    player.addEventListener("silent", () =>
+        notice(
+            "No sound comes out: there is no device for it, or the browser holds it back. The show plays without.",
+        ),
+    );
+    player.addEventListener("lost", () =>
+        notice("The graphics driver took the picture away. It comes back by itself."),
+    );
     player.addEventListener("restored", () => notice(""));
     if (settings.has("stats")) {
         element("stats").hidden = false;
@@ -137,7 +143,7 @@ function leave() {
 function main() {
     const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
     doors[Number(calm)].button.classList.add("preselected");
-    doors[Number(calm)].button.focus({ focusVisible: calm });
+    doors[Number(calm)].button.focus({ focusVisible: calm, preventScroll: true });
     try {
         loads = load();
     } catch (error) {

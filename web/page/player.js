@@ -20,6 +20,7 @@ export class Player extends EventTarget {
         canvas.addEventListener("webglcontextlost", (event) => this.#lose(event));
         canvas.addEventListener("webglcontextrestored", () => this.#restore());
         new ResizeObserver(() => this.fit()).observe(canvas.parentElement);
+        addEventListener("resize", () => this.fit()); // also where the window comes to a screen of other pixels
         document.addEventListener("visibilitychange", () => document.hidden && this.pause());
     }
 
@@ -133,12 +134,19 @@ export class Player extends EventTarget {
         if (box.width === 0 || this.#lost) return;
         const width = Math.floor(Math.min(box.width, (box.height * 4) / 3));
         const height = Math.floor(Math.min(box.height, (box.width * 3) / 4));
-        const scale = window.devicePixelRatio || 1;
         this.#canvas.style.width = `${width}px`;
         this.#canvas.style.height = `${height}px`;
-        const pixels = [Math.max(1, Math.round(width * scale)), Math.max(1, Math.round(height * scale))];
-        if (this.#canvas.width !== pixels[0] || this.#canvas.height !== pixels[1]) [this.#canvas.width, this.#canvas.height] = pixels;
-        this.#engine.resize(...pixels, scale);
+        const scale = window.devicePixelRatio || 1;
+        const [wide, high] = [width, height].map((side) => Math.max(1, Math.round(side * scale)));
+        if (this.#canvas.width === wide && this.#canvas.height === high) return;
+        this.#canvas.width = wide;
+        this.#canvas.height = high;
+        this.#ready();
+    }
+
+    /** Tells the engine what it draws on, and draws. */
+    #ready() {
+        this.#engine.resize(this.#canvas.width, this.#canvas.height, window.devicePixelRatio || 1);
         if (this.#state !== "stopped") this.#draw();
     }
 
@@ -155,6 +163,7 @@ export class Player extends EventTarget {
     #restore() {
         this.#lost = false;
         this.#engine.openPicture();
+        this.#ready();
         this.fit();
         this.#tell("restored");
         if (this.#resume) this.play();
