@@ -215,7 +215,11 @@ namespace {
 
 /// @return false, after a line, where the data is not what the show needs
 bool data_is_good() {
-    std::string const wrong = check_meshes();
+    std::string wrong = check_meshes();
+    if (wrong.empty() && music_enabled) {
+        wrong = check_soundtrack(music_file);
+        if (!wrong.empty()) wrong += "; -mute plays without it";
+    }
     if (!wrong.empty()) std::cerr << wrong << std::endl;
     return wrong.empty();
 }

@@ -18,11 +18,14 @@ inline void require(bool holds, char const* what) {
     std::abort();
 }
 
-/// Discards standard output during its lifetime: a million error lines are of no use.
+/// Discards what is printed during its lifetime: a million error lines are of no use.
 class Quiet {
 public:
-    Quiet() : before(std::cout.rdbuf(&nothing)) {}
-    ~Quiet() { std::cout.rdbuf(before); }
+    Quiet() : before(std::cout.rdbuf(&nothing)), error_before(std::cerr.rdbuf(&nothing)) {}
+    ~Quiet() {
+        std::cout.rdbuf(before);
+        std::cerr.rdbuf(error_before);
+    }
     Quiet(Quiet const&) = delete;
     Quiet& operator=(Quiet const&) = delete;
 
@@ -33,6 +36,7 @@ private:
     };
     Nothing nothing;
     std::streambuf* before;
+    std::streambuf* error_before;
 };
 
 /// A file in memory that has a path.

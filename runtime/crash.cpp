@@ -5,14 +5,13 @@
 
 #include <array>
 #include <csignal>
-#include <cstdlib>
 #include <unistd.h>
 
 namespace {
 
 constexpr std::array<int, 5> crashes = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
-constexpr std::size_t stack_size = 65536;
 
+std::array<char, 65536> own_stack;       ///< a crash may be one for want of stack
 std::array<struct sigaction, 65> before; // by signal
 volatile std::sig_atomic_t driver_is_asked = 0;
 
@@ -33,11 +32,10 @@ extern "C" void look_into_crash(int signal, siginfo_t* info, void*) {
 } // namespace
 
 void tell_a_lost_display_from_a_crash() {
-    // A crash may be one for want of stack.
     stack_t stack{};
-    stack.ss_sp = std::malloc(stack_size); // never freed: in use until the end
-    stack.ss_size = stack_size;
-    if (stack.ss_sp) sigaltstack(&stack, nullptr);
+    stack.ss_sp = own_stack.data();
+    stack.ss_size = own_stack.size();
+    sigaltstack(&stack, nullptr);
     struct sigaction action {};
     action.sa_sigaction = look_into_crash;
     action.sa_flags = SA_ONSTACK | SA_SIGINFO;

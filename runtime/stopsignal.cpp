@@ -3,6 +3,7 @@
 #include "runtime/deadline.h"
 
 #include <csignal>
+#include <initializer_list>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "show/datacheck.h"
 
 #include "kore/ascfile.h"
+#include "kore/soundtrackfile.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -16,14 +17,14 @@ MeshFile plain(char const* name, char const* object) { return {name, {object}, f
 MeshFile shattered(char const* name, char const* object) { return {name, {object}, true}; }
 
 /// @return "", or why the file is not read at all
-std::string refuse_file(std::string const& path) {
+std::string refuse_file(std::string const& path, std::size_t most_bytes) {
     std::error_code error;
     fs::file_status const status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found) return path + " is missing";
     if (error) return path + " cannot be read: " + error.message();
     if (!fs::is_regular_file(status)) return path + " is not a regular file";
-    if (fs::file_size(path, error) > kore::max_mesh_file) {
-        return path + " has more than " + std::to_string(kore::max_mesh_file >> 20) + " MiB";
+    if (fs::file_size(path, error) > most_bytes) {
+        return path + " has more than " + std::to_string(most_bytes >> 20) + " MiB";
     }
     if (access(path.c_str(), R_OK) != 0) return path + " cannot be read: " + std::generic_category().message(errno);
     return "";
@@ -86,9 +87,16 @@ std::span<MeshFile const> mesh_files() {
 std::string check_meshes() {
     for (MeshFile const& mesh : mesh_files()) {
         std::string const path = std::string("data/") + mesh.name;
-        std::string wrong = refuse_file(path);
+        std::string wrong = refuse_file(path, kore::max_mesh_file);
         if (wrong.empty()) wrong = refuse_content(mesh, path);
         if (!wrong.empty()) return wrong;
     }
     return "";
+}
+
+std::string check_soundtrack(std::string const& path) {
+    std::string const wrong = refuse_file(path, kore::soundtracklimits::most_bytes);
+    if (!wrong.empty() || kore::may_be_soundtrack(path)) return wrong;
+    return path + " is not Ogg Vorbis, FLAC or WAVE of up to " + std::to_string(kore::soundtracklimits::most_channels) +
+           " channels";
 }

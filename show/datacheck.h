@@ -19,3 +19,7 @@ std::span<MeshFile const> mesh_files();
 /// @return "", or a line that names the first file that is missing, unreadable, beyond a limit (kore/asclimits.h),
 ///         faulty or without an object that the show takes from it, and what is wrong with it
 std::string check_meshes();
+
+/// The same for the soundtrack, by its first bytes (kore/soundtrackfile.h).
+/// @return "", or a line that names the file and what is wrong with it
+std::string check_soundtrack(std::string const& path);

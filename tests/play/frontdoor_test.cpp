@@ -199,6 +199,8 @@ TEST_F(FrontDoor, TellsHelpAndVersionWithoutInstallingOrCompiling) {
         EXPECT_EQ(status, 0);
         EXPECT_THAT(output, StartsWith("usage: play [option...]\n"));
         EXPECT_THAT(output, HasSubstr("-width X"));
+        EXPECT_THAT(output, HasSubstr("Exit status: 0 done; 1 refused or failed, with one line that tells why; "
+                                      "128+n ended by signal n.\n"));
         EXPECT_EQ(error, "");
     }
     Run({"--version"}, {"DISPLAY", "INSTALLED="});

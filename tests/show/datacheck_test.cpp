@@ -116,3 +116,18 @@ TEST_F(DataCheck, TakesRegularFilesWithinTheLimitAlone) {
     fs::resize_file(path, std::uintmax_t{4} << 30); // all of it a hole
     expect(" has more than 64 MiB");
 }
+
+TEST_F(DataCheck, KnowsASoundtrackByItsFirstBytes) {
+    std::string const music = read_all(HARDSILENCE_SOURCE_DIR "/data/rump2.ogg");
+    EXPECT_EQ(check_soundtrack(root.Write("a.ogg", music)), "");
+    std::string const path = root.Path("a.ogg");
+    auto const expect = [&](std::string const& wrong) { EXPECT_EQ(check_soundtrack(path), path + wrong); };
+    static_cast<void>(root.Write("a.ogg", "noise"));
+    expect(" is not Ogg Vorbis, FLAC or WAVE of up to 8 channels");
+    fs::resize_file(path, std::uintmax_t{4} << 30);
+    expect(" has more than 64 MiB");
+    fs::remove(path);
+    expect(" is missing");
+    fs::create_directory(path);
+    expect(" is not a regular file");
+}

@@ -20,6 +20,8 @@ void set_up(CLI::App& app) {
     app.set_help_flag();
     app.set_help_all_flag("-h,--help", "Show this help");
     app.set_version_flag("--version", app.get_name() + " " HARDSILENCE_VERSION, "Show the version");
+    std::string const footer = app.get_footer();
+    app.footer(footer + (footer.empty() ? "" : "\n") + exit_status_line);
     app.get_formatter()->column_width(24);
     app.get_formatter()->label("REQUIRED", "(required)");
 }

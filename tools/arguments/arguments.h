@@ -6,8 +6,12 @@
 #include <optional>
 #include <string>
 
+/// The last line of every help text; README.md has the table.
+inline constexpr char const* exit_status_line =
+    "Exit status: 0 done; 1 refused or failed, with one line that tells why; 128+n ended by signal n.";
+
 /// Sets up what the tools have in common: --help and --version; of an option given twice the later one counts. Call it
-/// before adding options.
+/// before adding options and behind the footer, to which it adds the exit_status_line.
 void set_up(CLI::App& app);
 
 /// Adds an option with a value, which is passed to its reader unchanged, even if it is "".

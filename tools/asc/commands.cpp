@@ -2,9 +2,7 @@
 
 #include "tools/asc/ascfile.h"
 #include "tools/asc/check.h"
-#include "tools/asc/creases.h"
 #include "tools/asc/import.h"
-#include "tools/asc/refine.h"
 #include "tools/files/newfile.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
@@ -16,8 +14,6 @@
 namespace asc {
 
 namespace {
-
-constexpr int most_refined = 50000; ///< triangles, which takes seconds
 
 /// @return 1, the exit status after a fault
 int failed(std::string const& text) { return complain("asc", text); }
@@ -86,7 +82,8 @@ int save_picture(std::optional<sf::Image> const& picture, std::string const& out
 }
 
 int save_sheet(std::vector<Object> const& objects, unsigned int columns, unsigned int panel, std::string const& out) {
-    std::string const error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    std::string error = refuse_size("the sheet", sheet_size(objects.size(), columns, panel));
+    if (error.empty()) error = refuse_target(out);
     return error.empty() ? save_picture(draw_sheet(objects, columns, panel), out) : failed(error);
 }
 
@@ -101,25 +98,6 @@ bool replaces_input(std::vector<std::string> const& inputs, std::string const& o
     return false;
 }
 
-/// Turns an object as read into one for the show.
-/// @return "", or what is wrong
-std::string make_ready(Object& object, ConvertOptions const& options) {
-    if (options.flat) keep_lowest_plane(object);
-    if (options.centre) centre(object, *options.centre);
-    clean(object, options.weld);
-    wind(object);
-    if (object.faces.empty()) return "nothing is left of object '" + object.name + "'";
-    if (options.size && least_refined(object, *options.size) > most_refined) {
-        return "--refine would cut object '" + object.name + "' into more than " + std::to_string(most_refined) +
-               " triangles";
-    }
-    if (options.size && !refine(object, *options.size, options.min_angle)) {
-        return "the facets of object '" + object.name + "' cannot be made to fit each other";
-    }
-    flag_creases(object);
-    return "";
-}
-
 } // namespace
 
 int convert(ConvertOptions const& options) {
@@ -129,7 +107,7 @@ int convert(ConvertOptions const& options) {
         Input const input = input_of(argument);
         std::string error;
         for (Object& object : import_model(input.path, input.name, error)) {
-            if (error.empty()) error = make_ready(object, options);
+            if (error.empty()) error = make_ready(object, options.finish);
             objects.push_back(std::move(object));
         }
         if (!error.empty()) return failed(input.path + ": " + error);
@@ -172,6 +150,7 @@ int preview(PreviewOptions const& options) {
     if (out.empty()) out = std::filesystem::path(options.file).replace_extension(".png").string();
     if (!options.force && replaces_input({options.file}, out)) return 1;
     if (!options.camera) return save_sheet(objects, 2, 380, out);
+    if (std::string const error = refuse_target(out); !error.empty()) return failed(error);
     View view = options.view;
     view.camera = *options.camera;
     return save_picture(draw_view(objects, view, 1024, 768), out);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tools/asc/finish.h"
 #include "tools/asc/picture.h"
-#include "tools/asc/repair.h"
 
 #include <optional>
 #include <string>
@@ -16,11 +16,7 @@ struct ConvertOptions {
     std::vector<std::string> inputs;
     std::string out;
     bool force = false; ///< the result may replace a file that it is made of
-    bool flat = false;
-    double weld = weld_distance;
-    std::optional<Vec3> centre;
-    std::optional<double> size; ///< of the triangles to refine to
-    double min_angle = 20.0;    ///< of these, degrees
+    Finish finish;
 };
 
 struct JoinOptions {

@@ -65,15 +65,15 @@ void add_convert(CLI::App& app, Tool& tool) {
         ->required();
     command.add_option("-o", options.out, "The mesh file")->type_name("OUT.asc")->required();
     add_force(command, options.force);
-    command.add_flag("--flat", options.flat, "Keep only the lowest plane of a thin extrusion");
-    auto const weld = [&](std::string const& v) { return read_number(v, 1e-6, 1e3, options.weld); };
+    command.add_flag("--flat", options.finish.flat, "Keep only the lowest plane of a thin extrusion");
+    auto const weld = [&](std::string const& v) { return read_number(v, 1e-6, 1e3, options.finish.weld); };
     add_value(command, "--weld", "DISTANCE", weld, "a number from 0.000001 to 1000",
               "Join points closer than this (0.00001)");
-    add_vector(command, "--centre", options.centre, "Move the middle of the box to this point");
-    auto const size = [&](std::string const& v) { return read_number(v, 1e-4, 1e6, options.size.emplace()); };
+    add_vector(command, "--centre", options.finish.centre, "Move the middle of the box to this point");
+    auto const size = [&](std::string const& v) { return read_number(v, 1e-4, 1e6, options.finish.size.emplace()); };
     add_value(command, "--refine", "SIZE", size, "a number from 0.0001 to 1000000",
               "Cut the facets into even triangles with no side longer than this");
-    auto const angle = [&](std::string const& v) { return read_number(v, 0.0, 30.0, options.min_angle); };
+    auto const angle = [&](std::string const& v) { return read_number(v, 0.0, 30.0, options.finish.min_angle); };
     add_value(command, "--min-angle", "DEGREES", angle, "a number from 0 to 30", "Smallest angle of these (20)");
     command.callback([&] { tool.status = asc::convert(options); });
 }

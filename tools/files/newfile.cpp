@@ -119,3 +119,5 @@ std::string write_file(std::string const& path, std::string_view bytes) {
     file.Commit();
     return file.Error();
 }
+
+std::string refuse_target(std::string const& path) { return NewFile(path).Error(); }

@@ -49,3 +49,7 @@ private:
 /// Writes a whole file as a NewFile.
 /// @return "", or a sentence that tells why it is not written
 std::string write_file(std::string const& path, std::string_view bytes);
+
+/// Whether a file can be begun there: for work that takes long before there is anything to write.
+/// @return "", or a sentence that tells why not
+std::string refuse_target(std::string const& path);

@@ -58,7 +58,8 @@ std::string array(char const* name, Arguments const& words) {
 } // namespace
 
 std::vector<std::string> encoder_command(EncoderTask const& task) {
-    std::vector<std::string> command = {"ffmpeg", "-nostdin", "-hide_banner", "-loglevel", "error", "-y"};
+    // -xerror: otherwise a disk that is full when the file is closed is no failure.
+    std::vector<std::string> command = {"ffmpeg", "-nostdin", "-hide_banner", "-loglevel", "error", "-xerror", "-y"};
     append(command, {"-f", "rawvideo", "-pixel_format", "rgb24"});
     append(command, {"-video_size", std::to_string(task.width) + "x" + std::to_string(task.height)});
     append(command, {"-framerate", task.plan.rate.Text(), "-i", "pipe:0"});

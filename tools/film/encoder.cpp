@@ -90,7 +90,7 @@ std::string Encoder::Spawn(std::vector<std::string> const& command) {
     close(ends[0]);
     if (error == 0) return "";
     process = -1;
-    if (error == ENOENT) return "films are made by ffmpeg, which is not installed; --raw and --y4m do without";
+    if (error == ENOENT) return "ffmpeg, which makes films, is not installed; --raw and --y4m do without";
     return failure("start ffmpeg", error);
 }
 

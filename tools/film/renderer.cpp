@@ -7,6 +7,10 @@
 #include "tools/offscreen/offscreencontext.h"
 #include "tools/record/options.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <thread>
+
 namespace {
 
 int draw_pictures(RenderTask const& task, RenderShare const& share, FilmPlan const& plan, kore::Demo& demo,
@@ -26,9 +30,16 @@ int draw_pictures(RenderTask const& task, RenderShare const& share, FilmPlan con
     return 0;
 }
 
+/// Mesa's software driver starts a thread for every core in every process, unless it is told.
+void share_cores(unsigned int jobs) {
+    unsigned int const threads = std::max(std::thread::hardware_concurrency() / jobs, 1u);
+    if (jobs > 1) setenv("LP_NUM_THREADS", std::to_string(threads).c_str(), 0); // 0: the user's own stays
+}
+
 } // namespace
 
 int render(RenderTask const& task, RenderShare const& share) {
+    share_cores(share.jobs);
     // What would be wrong in every process is said by the first.
     auto const fail = [&](std::string const& why) { return share.number == 0 ? complain(why) : 1; };
     OffscreenContext context;

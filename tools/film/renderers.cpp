@@ -1,5 +1,6 @@
 #include "tools/film/renderers.h"
 
+#include "tools/files/streams.h"
 #include "tools/film/descriptors.h"
 #include "tools/film/renderer.h"
 #include "tools/record/options.h"
@@ -7,10 +8,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
+#include <type_traits>
 #include <unistd.h>
 
 namespace {
@@ -25,10 +28,12 @@ bool refused(char const* what) {
 } // namespace
 
 Renderers::~Renderers() {
-    Kill();
+    // With its pipes closed a process ends after the picture that it is at.
     for (Job& job : running) {
         close(job.ready);
         close(job.free);
+    }
+    for (Job const& job : running) {
         if (job.process > 0) waitpid(job.process, nullptr, 0);
     }
     if (memory) munmap(memory, memory_size);
@@ -71,7 +76,7 @@ bool Renderers::StartJob(RenderTask const& task, unsigned int number, unsigned i
         }
         std::signal(SIGINT, SIG_IGN); // of the terminal; the process that started it decides
         RenderShare const share{number, jobs, places, ready[1], free[0], Place(number, 0)};
-        std::exit(render(task, share));
+        std::exit(run_tool(recorder_name, [&] { return render(task, share); }));
     }
     close(ready[1]);
     close(free[0]);
@@ -81,6 +86,7 @@ bool Renderers::StartJob(RenderTask const& task, unsigned int number, unsigned i
 }
 
 std::optional<FilmPlan> Renderers::Plan() {
+    static_assert(std::is_trivially_copyable_v<FilmPlan>); // it goes through a pipe
     FilmPlan plan;
     if (read_all(running[0].ready, &plan, sizeof plan)) return plan;
     return std::nullopt;

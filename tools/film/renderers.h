@@ -29,7 +29,7 @@ public:
     Renderers() = default;
     Renderers(Renderers const&) = delete;
     Renderers& operator=(Renderers const&) = delete;
-    ~Renderers(); ///< ends them
+    ~Renderers(); ///< ends them, each after the picture that it is at
 
     /// Starts the processes. This process must have no OpenGL context yet.
     /// @return false, after an error line, if the machine refuses

@@ -4,6 +4,7 @@
 #include "runtime/playback.h"
 #include "show/datacheck.h"
 #include "show/show.h"
+#include "tools/files/newfile.h"
 #include "tools/files/png.h"
 #include "tools/files/streams.h"
 #include "tools/film/canvas.h"
@@ -143,11 +144,18 @@ int record(RecordOptions options) {
     if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
+    if (!options.folder.empty()) {
+        std::string const error = refuse_size("a picture", {options.width, options.height});
+        if (!error.empty()) return complain(error);
+    }
     if (!options.sheet.empty()) {
         PictureSize const size = sheet_size(shots.size(), options.columns, {options.width, options.height});
         if (std::string const error = refuse_size("the sheet", size); !error.empty()) return complain(error);
     }
     if (!make_folder(options.folder) || !make_folder(fs::path(options.sheet).parent_path())) return 1;
+    if (!options.sheet.empty()) {
+        if (std::string const error = refuse_target(options.sheet); !error.empty()) return complain(error);
+    }
     Playback playback(demo, recorded_rate);
     return take(shots, options, playback, canvas) ? 0 : 1;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr unsigned int largest_side = 8192; // pixels
+constexpr unsigned int largest_side = 16384; // pixels; more than drivers can
 constexpr unsigned int most_samples = 64;
 constexpr unsigned int most_supersample = 16;
 constexpr unsigned int most_columns = 100;
@@ -40,7 +40,7 @@ void add_drawing_options(CLI::App& app, RecordOptions& options) {
     add_value(app, "--scene", "NAME", [&](Value v) { return read_text(v, options.scene); },
               "a scene's name; --list shows them", "Count beats from the start of this scene; a film is of it alone");
     add_value(app, "--size", "WxH", [&](Value v) { return read_size(v, options); },
-              "a size such as 1024x768, up to 8192x8192",
+              "a size such as 1024x768, up to 16384x16384",
               "Size in pixels (1024x768; of films 1920x1080, of .gif and .webp 512x384)");
     app.add_flag_callback("--stretch", [&] { options.stretch = true; }, "Fill sizes that are not 4:3")
         ->trigger_on_parse();

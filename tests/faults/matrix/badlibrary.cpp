@@ -1,10 +1,11 @@
 // Loaded before the libraries of sound and OpenGL, has one of their calls go wrong: BAD_CALL names it, BAD_WAY is how:
-// "hangs", "fails", "crashes", "aborts". Without a device of its own it is OpenAL's null output that plays.
+// "hangs", "fails", "crashes", "aborts". BAD_FROM says how many calls are well before.
 
 #include <AL/al.h>
 #include <AL/alc.h>
 #include <GL/gl.h>
 #include <GL/glx.h>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
@@ -17,7 +18,10 @@ namespace {
 bool goes_wrong(char const* call) {
     char const* const wanted = std::getenv("BAD_CALL");
     char const* const way = std::getenv("BAD_WAY");
+    char const* const well = std::getenv("BAD_FROM");
+    static std::atomic<int> called = 0;
     if (!wanted || !way || std::strcmp(wanted, call) != 0) return false;
+    if (well && called++ < std::atoi(well)) return false;
     if (std::strcmp(way, "crashes") == 0) raise(SIGSEGV);
     if (std::strcmp(way, "aborts") == 0) std::abort();
     while (std::strcmp(way, "hangs") == 0) pause();

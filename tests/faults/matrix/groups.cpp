@@ -11,5 +11,10 @@ std::vector<faults::Group> faults::all_groups() {
         {"soundtrack", "a soundtrack that is none", soundtrack_cells},
         {"streams", "standard streams that are closed, full or unread", stream_cells},
         {"limits", "too few files and threads, too little memory", limit_cells},
+        {"data", "files of data/ that are missing or wrong", data_cells},
+        {"writing", "what stands in the way of a file", writing_cells},
+        {"output", "the tools' standard streams, closed or full", output_cells},
+        {"tools", "the tools' options, drivers and resources", tool_cells},
+        {"models", "model and mesh files that are wrong", model_cells},
     };
 }

@@ -49,7 +49,11 @@ std::vector<Cell> limit_cells() {
     for (Limit const& limit : limits) {
         std::string const name = std::string("ulimit -") + limit.option + ' ';
         for (int const value : limit.too_low) {
-            cells.push_back(ends(name + std::to_string(value), limited(limit, value, ++number), {.says = limit.says}));
+            cells.push_back({name + std::to_string(value), [command = limited(limit, value, ++number), &limit] {
+                                 Command on_display = command;
+                                 on_display.environment = {"DISPLAY=" + own_display()};
+                                 return end_complaint(on_display, {.says = limit.says});
+                             }});
         }
         for (int const value : limit.enough) {
             cells.push_back(plays(name + std::to_string(value), limited(limit, value, ++number)));

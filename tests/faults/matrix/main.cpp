@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <set>
@@ -16,6 +18,21 @@
 namespace {
 
 constexpr int workers = 4; // most cells wait
+
+/// The programs shall find what they find from a terminal, whoever started this: signals that are not ignored, as nohup
+/// has them, and no settings but the cell's own.
+void forget_surroundings() {
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    for (int const signal : {SIGHUP, SIGINT, SIGQUIT, SIGPIPE, SIGTERM, SIGCHLD}) std::signal(signal, SIG_DFL);
+    for (char const* const name :
+         {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "ALSOFT_DRIVERS", "ALSOFT_LOGLEVEL", "PULSE_SERVER",
+          "HARDSILENCE_CALM", "HARDSILENCE_CHECK", "HARDSILENCE_DESKTOP", "HARDSILENCE_MONITOR", "HARDSILENCE_OFFSET",
+          "HARDSILENCE_PACE", "HARDSILENCE_SOUND", "HARDSILENCE_STRETCH", "HARDSILENCE_WIRE"}) {
+        unsetenv(name);
+    }
+}
 
 struct Tally {
     std::size_t tried = 0;
@@ -45,6 +62,7 @@ Tally try_group(faults::Group const& group) {
 } // namespace
 
 int main(int argc, char** argv) {
+    forget_surroundings();
     auto const groups = faults::all_groups();
     bool const list = argc == 2 && std::strcmp(argv[1], "--list") == 0;
     Tally sum;

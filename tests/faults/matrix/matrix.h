@@ -39,5 +39,10 @@ std::vector<Cell> sound_cells();
 std::vector<Cell> soundtrack_cells();
 std::vector<Cell> stream_cells();
 std::vector<Cell> limit_cells();
+std::vector<Cell> data_cells();
+std::vector<Cell> writing_cells();
+std::vector<Cell> output_cells();
+std::vector<Cell> tool_cells();
+std::vector<Cell> model_cells();
 
 } // namespace faults

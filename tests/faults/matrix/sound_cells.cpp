@@ -116,6 +116,15 @@ void add_bad_calls(std::vector<Cell>& cells) {
             }
         }
     }
+    // Once when the device is looked for, and then at the end.
+    for (Kind const& kind : kinds) {
+        Words const environment =
+            joined(kind.environment, {"ALSOFT_DRIVERS=null", "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY,
+                                      "BAD_CALL=alcCloseDevice", "BAD_WAY=hangs", "BAD_FROM=1"});
+        cells.push_back(plays(std::string("alcCloseDevice hangs at the end, ") + kind.name,
+                              {.arguments = small_show(kind.options), .environment = environment},
+                              {.most_lines = is_mute(kind) ? 1 : 2, .says = is_mute(kind) ? "" : "did not answer"}));
+    }
     // Without music nothing of the library is called.
     for (std::string const way : {"aborts", "crashes"}) {
         cells.push_back(plays(

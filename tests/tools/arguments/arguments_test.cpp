@@ -73,6 +73,8 @@ TEST(Arguments, HelpAndVersionGoToStandardOutputWithStatusZero) {
         EXPECT_EQ(help.error, "");
         EXPECT_THAT(help.out, HasSubstr("Does nothing.\n"));
         EXPECT_THAT(help.out, HasSubstr("\n  --value TEXT          Anything but one text\n"));
+        EXPECT_THAT(help.out, testing::EndsWith("\nExit status: 0 done; 1 refused or failed, with one line that tells "
+                                                "why; 128+n ended by signal n.\n"));
     }
     Outcome const version = read({"--version"});
     EXPECT_EQ(version.status, 0);

@@ -313,6 +313,17 @@ TEST_F(AscCommand, OutlivesTheModelReader) {
     }
 }
 
+TEST_F(AscCommand, OutlivesTheMesher) {
+    put("crossed.obj",
+        "v 0 4 0\nv 5 0 0\nv 1 1 0\nv 0 0 0\nv 6 5 0\nf 3 2 1\nf 3 4 5\nf 3 5 2\n"); // faces across each other
+    put("out.asc", "old");
+    Outcome const run = call("convert crossed.obj --refine 0.5 -o out.asc");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.error.starts_with("asc: crossed.obj: object 'crossed' cannot be refined: it "));
+    EXPECT_EQ(std::count(run.error.begin(), run.error.end(), '\n'), 1) << run.error;
+    EXPECT_EQ(get("out.asc"), "old");
+}
+
 TEST_F(AscCommand, DoesNotWaitForAMaterial) {
     ASSERT_EQ(mkfifo(folder.Path("pipe.mtl").c_str(), 0666), 0);
     put("a.obj", "mtllib pipe.mtl\nusemtl m\n" + std::string(square_obj));

@@ -194,3 +194,11 @@ TEST_F(NewFileTest, SaysOnlyTheFirstThingThatWentWrong) {
     EXPECT_FALSE(file.Append("x") || file.Commit());
     EXPECT_EQ(file.Error(), error);
 }
+
+TEST_F(NewFileTest, TellsInAdvanceWhereNoneCanBeBegun) {
+    folder.Write("a", "old");
+    EXPECT_EQ(refuse_target(In("a")) + refuse_target(In("b")), "");
+    EXPECT_EQ(read_all(In("a")), "old");
+    EXPECT_THAT(Names(), ElementsAre("a"));
+    EXPECT_EQ(refuse_target("/dev/full"), "cannot write /dev/full: not a regular file");
+}

@@ -86,6 +86,18 @@ TEST_F(Film, LosslessHasEveryPixelAndEverySample) {
     EXPECT_GT(loudest, 1000);
 }
 
+TEST_F(Film, IsNotMadeOnADiskThatIsFull) {
+    std::string const mount = "mount -t tmpfs -o size=40k none . && cd . && ";
+    std::string const recorder = "'" HARDSILENCE_BINARY_DIR "/hardsilence-record' --size 64x48 --samples 0 ";
+    if (Shell("unshare -rm sh -c '" + mount + "true'").status != 0) GTEST_SKIP() << "needs a small disk";
+    folder.Write("script", mount + recorder + "--no-sound --frames 340:360 --film part.mkv; echo $?; ls -A");
+    Outcome const outcome = Shell("unshare -rm sh script");
+    EXPECT_EQ(outcome.output, "1\n") << "and no file";
+    EXPECT_TRUE(outcome.error.starts_with("hardsilence-record: ffmpeg: "));
+    EXPECT_TRUE(outcome.error.ends_with(": No space left on device\n")) << outcome.error;
+    EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1);
+}
+
 TEST_F(Film, CanBeSilent) {
     ASSERT_EQ(Record("--film part.mkv --frames 300:310 --no-sound").status, 0);
     EXPECT_EQ(Shell("ffprobe -v error -show_entries stream=codec_name -of csv=p=0 part.mkv").output, "ffv1\n");
@@ -135,8 +147,8 @@ TEST_F(Film, SaysSoWhereItsOutputIsClosed) {
 TEST_F(Film, SaysSoWhereThereIsNoFfmpeg) {
     Outcome const outcome = Record("--film a.mp4 --frames 0:3", {"PATH=/nowhere"});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.error, "hardsilence-record: films are made by ffmpeg, which is not installed; --raw and --y4m do "
-                             "without\n");
+    EXPECT_EQ(outcome.error,
+              "hardsilence-record: ffmpeg, which makes films, is not installed; --raw and --y4m do without\n");
     EXPECT_TRUE(fs::is_empty(In("")));
 }
 

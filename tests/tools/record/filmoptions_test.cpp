@@ -65,11 +65,12 @@ TEST(FilmOptions, ReadRangesOfFrames) {
 TEST(FilmOptions, FaultsGetOneLineAndStatusOne) {
     std::string const no_rate = " is not a rate from 24000/1001 to 240, such as 60 or 60000/1001";
     std::string const no_range = " is not a range of frames such as 100:200, 100: or :200";
+    std::string const known = "known are .mp4, .mkv, .webm, .gif, .webp";
     std::string const streams = "only one of --raw, --y4m and --md5 fits on standard output";
     // clang-format off
     std::pair<std::vector<char const*>, std::string> const cases[] = {
         {{"--film", ""},                                      "--film: '' is not a path"},
-        {{"--film", "a.mov"},   "cannot tell by its name what a.mov should be; known are .mp4, .mkv, .webm, .gif, .webp"},
+        {{"--film", "a.mov"},                                 "cannot tell by its name what a.mov should be; " + known},
         {{"--film", "a.mp4", "--size", "65x48"},              ".mp4 takes an even width and height"},
         {{"--film", "a.webm", "--size", "64x49"},             ".webm takes an even width and height"},
         {{"--raw", "a"},                                      "--raw: 'a' is not -, for standard output"},

@@ -51,7 +51,7 @@ TEST(RecordOptions, ListNeedsNothingElse) {
 TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
     std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths";
     std::string const no_picture = "no beats to record, see --beats; nor a film, see --film";
-    std::string const no_size = " is not a size such as 1024x768, up to 8192x8192";
+    std::string const no_size = " is not a size such as 1024x768, up to 16384x16384";
     // clang-format off
     std::pair<std::vector<char const*>, std::string> const cases[] = {
         {{},                          no_picture},
@@ -78,7 +78,7 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--size", "1024x"},         "--size: '1024x'" + no_size},
         {{"--size", "x768"},          "--size: 'x768'" + no_size},
         {{"--size", "0x768"},         "--size: '0x768'" + no_size},
-        {{"--size", "8193x1"},        "--size: '8193x1'" + no_size},
+        {{"--size", "16385x1"},       "--size: '16385x1'" + no_size},
         {{"--size", "4x3x2"},         "--size: '4x3x2'" + no_size},
         {{"--size", "-4x3"},          "--size: '-4x3'" + no_size},
         {{"--size", "99999999999x1"}, "--size: '99999999999x1'" + no_size},
