@@ -54,9 +54,9 @@ TEST_F(FarmOnSlurm, DrawsTheFilmAsAnArrayOfJobs) {
 
 TEST_F(FarmOnSlurm, LosesNothingWithANode) {
     // The third chunk waits on its first node, so that something is lost with it.
-    Fault(R"sh(case "$part" in
-*00002*) ! once waits || { echo "$SLURMD_NODENAME" >"$here/node"; sleep 600; } ;;
-esac)sh");
+    Fault(
+        R"sh(case "$part" in *00002*)
+        ! once waits || { echo "$SLURMD_NODENAME" >"$here/node"; sleep 600; } ;; esac)sh");
     auto const farm = Start(film);
     ASSERT_TRUE(Comes("once-waits"));
     ASSERT_TRUE(Comes("node"));
