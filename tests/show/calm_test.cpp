@@ -107,9 +107,11 @@ TEST(CalmScenes, CutTheOutermostShellAlone) {
         bool const cut = beats % 4 == 0 && beats > 0;
         for (Stage* const s : {&fountain, &greets}) {
             EXPECT_EQ(level(*s, beats + 0.1, "frameicosahedron"), cut ? 1 : 0);
-            for (char const* const name : {"tile", "torus2", "hollowsoccerball", "frameoctoball"}) {
+            for (char const* const name : {"tile", "torus2", "frameoctoball"}) {
                 EXPECT_EQ(Stage::Find(name).color[0], 1) << name;
             }
+            EXPECT_EQ(Stage::Count("hollowsoccerball"), 0); // of wire
+            EXPECT_EQ(Stage::Find("hollowsoccerball/lines").color[0], 0);
         }
     }
 }

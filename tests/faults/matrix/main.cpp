@@ -2,9 +2,10 @@
 //
 //     faults_matrix [--list] [GROUP...]
 //
-// With HARDSILENCE_LONG=1 the groups are longer.
+// With HARDSILENCE_LONG=1 each is tried ten times, for nothing may depend on luck.
 
 #include "tests/faults/matrix/matrix.h"
+#include "tests/support/effort.h"
 
 #include <algorithm>
 #include <chrono>
@@ -18,6 +19,7 @@
 namespace {
 
 constexpr int workers = 4; // most cells wait
+constexpr int many_rounds = 10;
 
 /// The programs shall find what they find from a terminal, whoever started this: signals that are not ignored, as nohup
 /// has them, and no settings but the cell's own.
@@ -65,6 +67,7 @@ int main(int argc, char** argv) {
     forget_surroundings();
     auto const groups = faults::all_groups();
     bool const list = argc == 2 && std::strcmp(argv[1], "--list") == 0;
+    int const rounds = support::long_run() ? many_rounds : 1;
     Tally sum;
     int known = 0;
     for (faults::Group const& group : groups) {
@@ -73,9 +76,11 @@ int main(int argc, char** argv) {
             std::any_of(argv + 1, argv + argc, [&](char const* name) { return name == std::string(group.name); });
         if (list || (argc > 1 && !asked)) continue;
         ++known;
-        Tally const tally = try_group(group);
-        sum.tried += tally.tried;
-        sum.failed += tally.failed;
+        for (int round = 0; round < rounds; ++round) {
+            Tally const tally = try_group(group);
+            sum.tried += tally.tried;
+            sum.failed += tally.failed;
+        }
     }
     if (list) return 0;
     if (argc > 1 && known != argc - 1) {
