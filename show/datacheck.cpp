@@ -95,7 +95,7 @@ std::string check_meshes() {
 }
 
 std::string check_soundtrack(std::string const& path) {
-    std::string const wrong = refuse_file(path, kore::soundtracklimits::most_bytes);
+    std::string wrong = refuse_file(path, kore::soundtracklimits::most_bytes);
     if (!wrong.empty() || kore::may_be_soundtrack(path)) return wrong;
     return path + " is not Ogg Vorbis, FLAC or WAVE of up to " + std::to_string(kore::soundtracklimits::most_channels) +
            " channels";

@@ -21,7 +21,7 @@ namespace fixedgl {
 /// Where the layer finds them. They are called through this table because the layer defines entry points of the same
 /// names itself.
 struct Driver {
-#define FIXEDGL_MEMBER(name) decltype(&::gl##name) name;
+#define FIXEDGL_MEMBER(name) decltype(&::gl##name) name; // NOLINT(bugprone-macro-parentheses): a name
     FIXEDGL_DRIVER_CALLS(FIXEDGL_MEMBER)
 #undef FIXEDGL_MEMBER
 };

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <iostream>
 #include <set>
+#include <unistd.h>
 
 namespace {
 
@@ -22,8 +23,9 @@ constexpr int workers = 4; // most cells wait
 constexpr int many_rounds = 10;
 
 /// The programs shall find what they find from a terminal, whoever started this: signals that are not ignored, as nohup
-/// has them, and no settings but the cell's own.
+/// has them, no settings but the cell's own, and no open files but the standard streams.
 void forget_surroundings() {
+    close_range(STDERR_FILENO + 1, ~0U, 0);
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
