@@ -16,7 +16,7 @@ constexpr std::size_t head_bytes = 65536;  ///< in which the header lies
 } // namespace soundtracklimits
 
 /// Whether the first bytes of a file are the header of an Ogg Vorbis, FLAC or RIFF WAVE file whose channels and rate
-/// are within the limits. Formats: Xiph.Org, "Vorbis I specification", 4.2.2, and RFC 3533, section 6; RFC 9639,
+/// are within the limits. Formats: Xiph.Org, "Vorbis I", 4.2.2, and RFC 3533, section 6; RFC 9639,
 /// sections 8.1 and 8.2; Microsoft and IBM, "Multimedia Programming Interface and Data Specifications 1.0", chapter 3.
 /// @param head  the file's first head_bytes bytes, or all of it
 bool is_soundtrack(std::string_view head);

@@ -1,8 +1,8 @@
 // The front door, in a checkout and in a prefix of its own, with stand-ins for what it calls: no package is installed
 // and nothing is compiled.
 
+#include "tests/support/process.h"
 #include "tests/support/temp.h"
-#include "tests/window/process.h"
 
 #include <csignal>
 #include <filesystem>

@@ -1,8 +1,8 @@
 // Where the programs look for data/. Without a display each ends before it has a window; what it says tells whether
 // it got past its data.
 
+#include "tests/support/process.h"
 #include "tests/support/temp.h"
-#include "tests/window/process.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>

@@ -48,15 +48,11 @@ void flush_streams() {
     std::fflush(nullptr);
 }
 
-void change_environment(std::vector<std::string> const& changes) {
-    for (std::string const& change : changes) {
-        auto const equals = change.find('=');
-        if (equals == std::string::npos) {
-            unsetenv(change.c_str());
-        } else {
-            setenv(change.substr(0, equals).c_str(), change.substr(equals + 1).c_str(), 1);
-        }
-    }
+/// Whatever the tests' own standard input is, a terminal, a pipe or nothing at all.
+void take_no_input() {
+    int const nothing = open("/dev/null", O_RDONLY);
+    dup2(nothing, STDIN_FILENO);
+    if (nothing != STDIN_FILENO) close(nothing);
 }
 
 [[noreturn]] void be_child(std::function<int()> const& work, Surroundings const& surroundings) {
@@ -87,6 +83,17 @@ int wait_or_kill(pid_t child, std::chrono::milliseconds limit) {
 
 } // namespace
 
+void change_environment(std::vector<std::string> const& changes) {
+    for (std::string const& change : changes) {
+        auto const equals = change.find('=');
+        if (equals == std::string::npos) {
+            unsetenv(change.c_str());
+        } else {
+            setenv(change.substr(0, equals).c_str(), change.substr(equals + 1).c_str(), 1);
+        }
+    }
+}
+
 Outcome run_in_child(std::function<int()> const& work, Surroundings const& surroundings) {
     Capture const output;
     Capture const error;
@@ -96,6 +103,7 @@ Outcome run_in_child(std::function<int()> const& work, Surroundings const& surro
     if (child == 0) {
         output.Take(STDOUT_FILENO);
         error.Take(STDERR_FILENO);
+        take_no_input();
         be_child(work, surroundings);
     }
     setpgid(child, child); // in both processes, so that it is done in time for either

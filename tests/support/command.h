@@ -23,6 +23,10 @@ struct Outcome {
     std::string error;  ///< from standard error
 };
 
+/// Changes this process's environment.
+/// @param changes  NAME=value sets, NAME alone removes
+void change_environment(std::vector<std::string> const& changes);
+
 /// Runs a function of this program in a copy of the process. Where a signal ends it, no core file is written.
 /// @param work  what it returns is the exit status
 Outcome run_in_child(std::function<int()> const& work, Surroundings const& surroundings = {});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/window/process.h"
+#include "tests/support/process.h"
 #include "tests/window/xscreen.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "runtime/area.h"
+#include "tests/support/process.h"
 #include "tests/support/temp.h"
-#include "tests/window/process.h"
 
 #include <cstdint>
 #include <memory>

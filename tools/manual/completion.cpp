@@ -54,9 +54,9 @@ std::string zsh_arguments(HelpSection const& section) {
     std::string all;
     for (HelpEntry const& entry : section.entries) {
         for (std::string const& name : entry.names) {
-            std::string spec = name + "[" + zsh_text(entry.text) + "]";
-            if (!entry.value.empty()) spec += ":" + zsh_text(entry.value) + ":_files";
-            all += " \\\n        " + quoted(spec);
+            std::string argument = name + "[" + zsh_text(entry.text) + "]";
+            if (!entry.value.empty()) argument += ":" + zsh_text(entry.value) + ":_files";
+            all += " \\\n        " + quoted(argument);
         }
     }
     return all + " \\\n        '*:file:_files'\n";
@@ -87,8 +87,8 @@ std::string bash_completion(std::string const& program, Help const& help) {
     std::string const name = function_name(program);
     std::string script = name + "() {\n    local words=''\n    case \"${COMP_WORDS[1]}\" in\n";
     for (HelpSection const& section : help) {
-        std::string const pattern = section.command.empty() ? "" : section.command;
-        if (!pattern.empty()) script += "    " + pattern + ") words=" + quoted(names(section)) + " ;;\n";
+        if (section.command.empty()) continue;
+        script += "    " + section.command + ") words=" + quoted(names(section)) + " ;;\n";
     }
     std::string const main = help.empty() || !help.front().command.empty() ? "" : names(help.front());
     std::string const first = commands(help);

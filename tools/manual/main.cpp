@@ -4,6 +4,7 @@
 // the section: hardsilence-play.6. PROGRAM is the command that prints the help, without --help. What is made goes to
 // FOLDER: PAGE's name, and bash, zsh and fish with the program's name.
 
+#include "tools/files/newfile.h"
 #include "tools/manual/pages.h"
 
 #include <array>
@@ -13,7 +14,7 @@
 #include <iostream>
 #include <optional>
 #include <sstream>
-#include <sys/wait.h>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -45,8 +46,6 @@ int complain(std::string const& what) {
     return 1;
 }
 
-bool write(fs::path const& path, std::string const& text) { return (std::ofstream(path) << text).flush().good(); }
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -64,9 +63,14 @@ int main(int argc, char** argv) {
     replace(*page, "@VERSION@", VERSION);
     replace(*page, "@OPTIONS@\n", manual_options(help));
     std::string const program = source.stem().string();
-    bool const written = write(folder / source.filename(), *page) &&
-                         write(folder / (program + ".bash"), bash_completion(program, help)) &&
-                         write(folder / ("_" + program), zsh_completion(program, help)) &&
-                         write(folder / (program + ".fish"), fish_completion(program, help));
-    return written ? 0 : complain("cannot write to " + folder.string());
+    std::pair<std::string, std::string> const files[] = {
+        {source.filename(), *page},
+        {program + ".bash", bash_completion(program, help)},
+        {"_" + program, zsh_completion(program, help)},
+        {program + ".fish", fish_completion(program, help)},
+    };
+    for (auto const& [name, content] : files) {
+        if (std::string const wrong = write_file(folder / name, content); !wrong.empty()) return complain(wrong);
+    }
+    return 0;
 }

@@ -47,6 +47,11 @@ std::string what_was_said(std::string const& error, int lines, bool exactly, std
 
 std::string program(std::string const& name) { return HARDSILENCE_BINARY_DIR "/" + name; }
 
+Words joined(Words first, Words const& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
 int lines_of(std::string const& text) {
     auto const ends = std::count(text.begin(), text.end(), '\n');
     return static_cast<int>(ends) + (!text.empty() && text.back() != '\n' ? 1 : 0);

@@ -10,6 +10,18 @@
 /// Cells that run a program.
 namespace faults {
 
+using Words = std::vector<std::string>;
+
+/// @return the first and then the second
+Words joined(Words first, Words const& second);
+
+/// A way to start the show.
+struct Kind {
+    char const* name;
+    Words options;
+    Words environment;
+};
+
 /// The programs.
 std::string program(std::string const& name);
 inline std::string const show = program("hardsilence");

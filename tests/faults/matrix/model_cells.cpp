@@ -8,8 +8,6 @@ namespace faults {
 
 namespace {
 
-using Words = std::vector<std::string>;
-
 /// A model may take its reader some seconds before the tool gives it up.
 constexpr std::chrono::milliseconds slow{20000};
 

@@ -9,14 +9,6 @@ namespace faults {
 
 namespace {
 
-using Words = std::vector<std::string>;
-
-struct Kind {
-    char const* name;
-    Words options;
-    Words environment;
-};
-
 std::vector<Kind> const kinds = {
     {"window", {"-w", "-width", "64"}, {}},
     {"full screen", {"-width", "800"}, {}},
@@ -31,11 +23,6 @@ Words quick_show(Kind const& kind) {
     if (kind.name != std::string("4 samples")) arguments.push_back("-nofsaa");
     arguments.insert(arguments.end(), kind.options.begin(), kind.options.end());
     return arguments;
-}
-
-Words joined(Words first, Words const& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
 }
 
 void add_missing_displays(std::vector<Cell>& cells) {

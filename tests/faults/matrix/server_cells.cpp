@@ -2,7 +2,7 @@
 
 #include "tests/faults/matrix/commands.h"
 #include "tests/faults/matrix/silentserver.h"
-#include "tests/window/process.h"
+#include "tests/support/process.h"
 
 #include <csignal>
 #include <cstring>

@@ -19,12 +19,6 @@ constexpr Signal signals[] = {
     {"KILL", SIGKILL, 137}, {"ABRT", SIGABRT, 134}, {"SEGV", SIGSEGV, 139}, {"USR1", SIGUSR1, 138},
 };
 
-struct Kind {
-    char const* name;
-    std::vector<std::string> options;
-    std::vector<std::string> environment;
-};
-
 std::vector<Kind> const kinds = {
     {"exact", {"-mute"}, {}},
     {"friendly", {"-mute"}, {"HARDSILENCE_DESKTOP=1", "HARDSILENCE_PACE=1"}},

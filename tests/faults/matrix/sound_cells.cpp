@@ -10,14 +10,6 @@ namespace faults {
 
 namespace {
 
-using Words = std::vector<std::string>;
-
-struct Kind {
-    char const* name;
-    Words options;
-    Words environment;
-};
-
 std::vector<Kind> const kinds = {
     {"exact", {}, {}},
     {"friendly", {}, {"HARDSILENCE_DESKTOP=1", "HARDSILENCE_PACE=1", "HARDSILENCE_SOUND=1"}},
@@ -25,11 +17,6 @@ std::vector<Kind> const kinds = {
 };
 
 bool is_mute(Kind const& kind) { return !kind.options.empty(); }
-
-Words joined(Words first, Words const& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
 
 /// A device, as OpenAL is told of it.
 struct Device {

@@ -6,8 +6,6 @@ namespace faults {
 
 namespace {
 
-using Words = std::vector<std::string>;
-
 /// A pipe on a stream, open to read in the same process, which does not.
 std::string pipe_on(std::string const& stream) {
     return "p=$(mktemp -u) && mkfifo $p && exec 9<>$p && exec " + stream + ">$p && rm $p";

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/support/process.h"
 #include "tests/support/temp.h"
-#include "tests/window/process.h"
 
 #include <csignal>
 #include <map>

@@ -34,8 +34,9 @@ TEST_F(FarmTest, NeedsNothingToRunChunksInParallel) {
 }
 
 TEST_F(FarmTest, SharesTheWorkBetweenMachines) {
-    // Stands in for ssh: notes the machine's name, and runs the command here.
+    // Stands in for ssh: notes the machine's name, and runs the command here, in a login shell's environment.
     constexpr char const* ssh = R"(#!/bin/bash
+export SHELL=/bin/bash
 while [[ "$1" == -* ]]; do shift; done
 echo "$1" >>"${0%/*}/machines"
 [ "$2" != -- ] || shift
@@ -43,7 +44,7 @@ eval "${@:2}"
 )";
     fs::permissions(folder.Write("ssh", ssh), fs::perms::owner_all);
     Outcome const outcome = Farm(std::string("--sshlogin 1/ada,1/bob --out film.mkv ") + small_film,
-                                 {"PARALLEL_SSH=" + In("ssh"), "HOME=" + In("")});
+                                 {"PARALLEL_SSH=" + In("ssh"), "HOME=" + In(""), "SHELL"});
     EXPECT_EQ(outcome.status, 0) << outcome.error << read_all(In("film.mkv.farm/log"));
     EXPECT_THAT(read_all(In("machines")), HasSubstr("ada\n"));
     EXPECT_THAT(read_all(In("machines")), HasSubstr("bob\n"));

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/support/command.h"
+#include "tests/support/process.h"
 #include "tests/support/temp.h"
-#include "tests/window/process.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,7 +1,7 @@
 // What the recorder writes of films, and its messages.
 
+#include "tests/support/process.h"
 #include "tests/tools/film/filmtest.h"
-#include "tests/window/process.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>
 #include <chrono>
@@ -113,23 +113,14 @@ TEST_F(Film, HoldsTheLastPictureToTheEndOfTheMusic) {
 
 TEST_F(Film, FaultsGetOneLineAndStatusOne) {
     folder.Write("file", "in the way");
-    std::pair<std::string, std::string> const cases[] = {
+    Refusal const cases[] = {
         {"--md5 --frames 10712:", "there is no frame 10712: the film has 10712, counted from 0"},
         {"--md5 --scene finale", "no scene is called 'finale'; there are intro, gungirl, swapper, credits, tunnelgate, "
                                  "plasma, fountain, greets"},
         {"--film file/a.mkv --to 1", "cannot write " + In("file/a.mkv") + ": Not a directory"},
         {"--film a.mkv --to 1 --encoder '-c:v nothing'", "ffmpeg: Unknown encoder 'nothing'"},
     };
-    for (auto const& [arguments, line] : cases) {
-        SCOPED_TRACE(arguments);
-        Outcome const outcome = Record(arguments);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
-        EXPECT_EQ(outcome.output, "");
-    }
-    for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
-        EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
-    }
+    ExpectRefusals(cases);
 }
 
 TEST_F(Film, SaysSoWhereItsOutputIsClosed) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tests/support/command.h"
-#include "tests/support/temp.h"
+#include "tests/tools/record/recorderrun.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -12,14 +11,9 @@
 
 inline constexpr std::size_t frame_bytes = std::size_t{3} * 64 * 48;
 
-class Film : public testing::Test {
+class Film : public RecorderRun {
 protected:
-    /// Runs the recorder in a folder of its own.
-    support::Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {}) const {
-        return support::run_shell("'" HARDSILENCE_BINARY_DIR "/hardsilence-record' --size 64x48 --samples 0 " +
-                                      arguments,
-                                  {.folder = folder.Path(""), .environment = environment});
-    }
+    Film() : RecorderRun("--size 64x48 --samples 0 ") {}
 
     /// The digest of each frame, with its number.
     std::vector<std::string> Digests(std::string const& arguments) const {
@@ -38,8 +32,6 @@ protected:
         return support::run_shell(line, {.folder = folder.Path("")});
     }
 
-    std::string In(std::string const& file) const { return folder.Path(file); }
-
     static std::vector<std::string> Lines(std::string const& text) {
         std::istringstream stream(text);
         std::vector<std::string> lines;
@@ -48,8 +40,6 @@ protected:
         }
         return lines;
     }
-
-    support::TempFolder const folder;
 };
 
 /// The digest alone, without the frame's number.

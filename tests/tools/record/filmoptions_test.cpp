@@ -68,7 +68,7 @@ TEST(FilmOptions, FaultsGetOneLineAndStatusOne) {
     std::string const known = "known are .mp4, .mkv, .webm, .gif, .webp";
     std::string const streams = "only one of --raw, --y4m and --md5 fits on standard output";
     // clang-format off
-    std::pair<std::vector<char const*>, std::string> const cases[] = {
+    Refusal const cases[] = {
         {{"--film", ""},                                      "--film: '' is not a path"},
         {{"--film", "a.mov"},                                 "cannot tell by its name what a.mov should be; " + known},
         {{"--film", "a.mp4", "--size", "65x48"},              ".mp4 takes an even width and height"},
@@ -93,13 +93,7 @@ TEST(FilmOptions, FaultsGetOneLineAndStatusOne) {
         {{"--md5", "--overview"},                             "either pictures or a film"},
     };
     // clang-format on
-    for (auto const& [arguments, line] : cases) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
-        Outcome const outcome = read(arguments);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
-        EXPECT_EQ(outcome.out, "");
-    }
+    expect_refusals(cases);
 }
 
 TEST(FilmOptions, AreInTheHelp) {

@@ -53,7 +53,7 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
     std::string const no_picture = "no beats to record, see --beats; nor a film, see --film";
     std::string const no_size = " is not a size such as 1024x768, up to 16384x16384";
     // clang-format off
-    std::pair<std::vector<char const*>, std::string> const cases[] = {
+    Refusal const cases[] = {
         {{},                          no_picture},
         {{"--out", "x"},              no_picture},
         {{"--beats", "1"},            "nowhere to write to, see --out and --sheet"},
@@ -91,13 +91,7 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--columns", "101"},        "--columns: '101' is not a number from 1 to 100"},
     };
     // clang-format on
-    for (auto const& [arguments, line] : cases) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
-        Outcome const outcome = read(arguments);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
-        EXPECT_EQ(outcome.out, "");
-    }
+    expect_refusals(cases);
 }
 
 TEST(RecordOptions, HelpNamesEveryOption) {

@@ -4,6 +4,7 @@
 #include "tests/support/command.h"
 #include "tests/support/images.h"
 #include "tests/support/temp.h"
+#include "tests/tools/record/recorderrun.h"
 
 #include <chrono>
 #include <filesystem>
@@ -31,20 +32,7 @@ std::string padded(double beats) {
     return text.str();
 }
 
-/// Runs the program in an empty folder of its own.
-class Recorder : public testing::Test {
-protected:
-    /// @param before  of the shell, in front of the program
-    Outcome Record(std::string const& arguments, std::vector<std::string> const& environment = {},
-                   std::string const& before = "") const {
-        return support::run_shell(before + "'" HARDSILENCE_BINARY_DIR "/hardsilence-record' " + arguments,
-                                  {.folder = folder.Path(""), .environment = environment});
-    }
-
-    std::string In(std::string const& file) const { return folder.Path(file); }
-
-    support::TempFolder const folder;
-};
+using Recorder = RecorderRun;
 
 } // namespace
 
@@ -172,7 +160,7 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
     scores::Score const& first = scores::all()[0];
     std::string const length = std::to_string(first.length);
     std::string const past_the_end = " lies past the last frame of the show, which has " + beats + " beats";
-    std::pair<std::string, std::string> const cases[] = {
+    Refusal const cases[] = {
         {"--beats x --out .", "--beats: 'x' is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths"},
         {"--beats 1 --out . --scene Finale", "no scene is called 'Finale'; there are " + names()},
         {"--beats " + beats + " --out .", "beat " + beats + past_the_end},
@@ -186,16 +174,7 @@ TEST_F(Recorder, FaultsGetOneLineAndStatusOne) {
         {"--beats 1 --sheet .", "--sheet: '.' is not a path that ends in .png"},
         {"--beats 1 --sheet a.jpg", "--sheet: 'a.jpg' is not a path that ends in .png"},
     };
-    for (auto const& [arguments, line] : cases) {
-        SCOPED_TRACE(arguments);
-        Outcome const outcome = Record(arguments);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.error, "hardsilence-record: " + line + "\n");
-        EXPECT_EQ(outcome.output, "");
-    }
-    for (fs::directory_entry const& entry : fs::directory_iterator(In(""))) {
-        EXPECT_EQ(entry.path().filename(), "file") << "nothing is left behind";
-    }
+    ExpectRefusals(cases);
 }
 
 TEST_F(Recorder, NeverLeavesHalfAPictureNorTakesAnOldOne) {

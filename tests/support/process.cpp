@@ -1,7 +1,8 @@
-#include "tests/window/process.h"
+#include "tests/support/process.h"
+
+#include "tests/support/command.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <sstream>
@@ -26,17 +27,6 @@ void redirect(std::string const& path, int to) {
     close(file);
 }
 
-void change_environment(std::vector<std::string> const& changes) {
-    for (std::string const& change : changes) {
-        auto const equals = change.find('=');
-        if (equals == std::string::npos) {
-            unsetenv(change.c_str());
-        } else {
-            setenv(change.substr(0, equals).c_str(), change.substr(equals + 1).c_str(), 1);
-        }
-    }
-}
-
 } // namespace
 
 Process::Process(std::vector<std::string> const& arguments, std::vector<std::string> const& changes,
@@ -49,7 +39,7 @@ Process::Process(std::vector<std::string> const& arguments, std::vector<std::str
     if (pid != 0) return;
     redirect(out_path, STDOUT_FILENO);
     redirect(error_path, STDERR_FILENO);
-    change_environment(changes);
+    support::change_environment(changes);
     if (!folder.empty() && chdir(folder.c_str()) != 0) _exit(126);
     execvp(argv[0], argv.data());
     _exit(127);
