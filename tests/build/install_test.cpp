@@ -63,7 +63,7 @@ TEST(Version, IsStatedOnce) {
 
 TEST(Version, IsToldByEveryTool) {
     for (char const* tool : {HARDSILENCE_BINARY_DIR "/hardsilence-record", HARDSILENCE_BINARY_DIR "/tools/asc/asc",
-                             "tools/farm", "tools/web"}) {
+                             "tools/farm", "tools/films", "tools/release", "tools/release-trial", "tools/web"}) {
         SCOPED_TRACE(tool);
         auto const outcome = support::run({tool, "--version"});
         EXPECT_EQ(outcome.status, 0);
