@@ -61,9 +61,7 @@ bool read_answer(int from, Answer& answer) {
     return true;
 }
 
-} // namespace
-
-std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers) {
+std::vector<std::string> try_side_by_side(std::vector<Cell> const& cells, int workers) {
     constexpr std::size_t most = 65536 / sizeof(int); // that a pipe holds
     if (cells.size() > most) throw std::runtime_error("too many cells");
     Pipe const orders;
@@ -91,6 +89,16 @@ std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers) 
     }
     close(answers.ends[0]);
     for (pid_t const child : children) waitpid(child, nullptr, 0);
+    return complaints;
+}
+
+} // namespace
+
+std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers) {
+    std::vector<std::string> complaints = try_side_by_side(cells, workers);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (complaints[i].starts_with(late)) complaints[i] = try_side_by_side({cells[i]}, 1)[0];
+    }
     return complaints;
 }
 
