@@ -18,6 +18,8 @@ namespace faults {
 
 namespace {
 
+constexpr int chances = 3; // of a cell that is late, by itself
+
 struct Pipe {
     Pipe() {
         if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
@@ -97,7 +99,9 @@ std::vector<std::string> try_side_by_side(std::vector<Cell> const& cells, int wo
 std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers) {
     std::vector<std::string> complaints = try_side_by_side(cells, workers);
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (complaints[i].starts_with(late)) complaints[i] = try_side_by_side({cells[i]}, 1)[0];
+        for (int again = 0; again < chances && complaints[i].starts_with(late); ++again) {
+            complaints[i] = try_side_by_side({cells[i]}, 1)[0];
+        }
     }
     return complaints;
 }

@@ -29,7 +29,7 @@ struct Group {
 std::vector<Group> all_groups();
 
 /// Tries the cells, some at a time where they may, each in a process that they do not share with others. Those that are
-/// late and nothing else are tried again one by one.
+/// late and nothing else are tried again one by one, a few times.
 /// @param workers  how many at a time
 /// @return "" for each cell that is right, else its complaint
 std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers);
