@@ -57,7 +57,7 @@ class FrontDoor : public testing::Test {
 protected:
     FrontDoor() {
         for (char const* name : {"bin", "checkout/tools", "checkout/data", "home"}) fs::create_directories(At(name));
-        for (char const* name : {"play", "packages.txt", "CMakeLists.txt", "tools/need-packages"}) {
+        for (char const* name : {"play", "packages.txt", "CMakeLists.txt", "tools/need-packages", "tools/version"}) {
             fs::copy(fs::path(HARDSILENCE_SOURCE_DIR) / name, At("checkout") / name);
         }
         for (char const* name : {"basename", "bash", "cat", "cp", "dirname", "echo", "env", "grep", "ln", "mkdir",
@@ -345,18 +345,24 @@ TEST_F(FrontDoor, SaysThatSudoIsMissing) {
 TEST_F(FrontDoor, InstalledStandsBesideTheProgram) {
     fs::create_directories(At("prefix/bin"));
     door = folder.Path("prefix/bin/hardsilence-play");
-    fs::copy(At("checkout/play"), door);
+    fs::copy(fs::path(HARDSILENCE_BINARY_DIR) / "hardsilence-play", door); // as the build makes it of play
     Give("prefix/bin/hardsilence", program);
-    Give("prefix/bin/hardsilence-record", "#!/bin/bash\necho hardsilence-record 1.2.3\n");
+    Give("prefix/bin/hardsilence-record", program);
     fs::create_symlink(door, At("bin/link"));
     Run({"-fps"});
     EXPECT_EQ(output, std::string(warning) + "hardsilence -fps\n" + friendly);
     Run({"--version"});
-    EXPECT_EQ(output, "Hard Silence 1.2.3\n");
+    EXPECT_EQ(output, "Hard Silence " HARDSILENCE_VERSION "\n");
+    Run({"--record", "--list"});
+    EXPECT_EQ(output, "hardsilence-record --list\n");
     door = folder.Path("bin/link");
     Run({"-fps"});
     EXPECT_EQ(output, std::string(warning) + "hardsilence -fps\n" + friendly);
     EXPECT_EQ(Log(), "");
+    fs::remove(At("prefix/bin/hardsilence-record"));
+    Run({"--record", "--list"});
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(error, "link: the recorder is not installed; on Debian it is in hardsilence-tools; see --help\n");
 }
 
 } // namespace
