@@ -224,7 +224,7 @@ bool data_is_good() {
 }
 
 int play(DroppingStreams& streams) {
-    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE, mesh_files().front().name); !missing.empty()) {
         std::cerr << missing << std::endl;
         return 1;
     }

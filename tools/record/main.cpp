@@ -179,7 +179,8 @@ int run(int argc, char** argv) {
     for (std::string* const path : {&options.folder, &options.sheet, &options.timeline, &options.film.file}) {
         if (!make_absolute(*path)) return 1;
     }
-    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE, mesh_files().front().name); !missing.empty())
+        return complain(missing);
     return options.film.Wanted() ? make_film(options) : record(options);
 }
 
