@@ -20,7 +20,7 @@ Desk::Desk(RehearseOptions const& options, sf::Window& window, GoodData& data)
     : my_options(options), my_window(window), my_data(data),
       rehearsal([&](kore::Demo& demo) { my_data.Within([&] { init_demo(demo, nullptr, beat_seconds); }); }),
       transport(rehearsal.Frames()), timeline(make_timeline(rehearsal.Demo(), models.get(), beat_seconds)),
-      panel(options.panel) {
+      content(options.content), panel(options.panel) {
     transport.Seek(frame_at(options.at));
     transport.SetPlaying(options.play);
     if (options.mute) ToggleMute();
@@ -137,6 +137,9 @@ void Desk::TakeChanges() {
     if (next_waveform.valid() && next_waveform.wait_for(std::chrono::seconds(0)) == std::future_status::ready) {
         waveform = next_waveform.get();
     }
+    std::string const progress = content.Progress();
+    content.Poll();
+    if (content.Progress() != progress) Say(content.Progress().empty() ? "rendered" : content.Progress());
     if (!watch.Changed()) return;
     std::string const fault = my_data.Fault();
     GoodData::Result const meshes = my_data.Take();
@@ -255,7 +258,7 @@ void Desk::DrawOverlay(double seconds) {
                     .free_camera = view.IsFree(),
                     .pose = camera.Lines(),
                     .fault = fault,
-                    .progress = ""});
+                    .progress = content.Progress()});
         if (auto const chosen = timeline_view.Show(overlay, timeline, waveform, transport)) transport.Seek(*chosen);
     }
     if (keys) show_keys(overlay);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "runtime/area.h"
+#include "tools/rehearse/content.h"
 #include "tools/rehearse/filewatch.h"
 #include "tools/rehearse/flycamera.h"
 #include "tools/rehearse/gooddata.h"
@@ -77,6 +78,7 @@ private:
     RehearsalMusic music;
     std::string music_fault;
     FileWatch watch{{"data"}};
+    Content content;
     Overlay overlay;
     TimelineView timeline_view;
     LastFrames frames;

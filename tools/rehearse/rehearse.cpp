@@ -8,6 +8,7 @@
 #include "runtime/frame.h"
 #include "runtime/opening.h"
 #include "runtime/stopsignal.h"
+#include "show/datacheck.h"
 #include "tools/files/streams.h"
 #include "tools/rehearse/desk.h"
 
@@ -41,8 +42,10 @@ int start(int argc, char** argv) {
     RehearseOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     std::error_code error;
+    if (!options.content.empty()) options.content = std::filesystem::absolute(options.content, error).string();
     options.pictures = std::filesystem::absolute(options.pictures, error).lexically_normal().string();
-    if (std::string const missing = enter_data_folder(""); !missing.empty()) return refuse(missing);
+    if (std::string const missing = enter_data_folder("", mesh_files().front().name); !missing.empty())
+        return refuse(missing);
     GoodData data;
     if (data.Take() == GoodData::Result::Faulty) return refuse(data.Fault());
     if (!window_possible() || !opengl_possible()) return 1;

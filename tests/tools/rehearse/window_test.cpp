@@ -4,6 +4,7 @@
 #include "tests/support/images.h"
 #include "tests/support/temp.h"
 #include "tests/window/xscreen.h"
+#include "tools/record/beats.h"
 #include "tools/rehearse/keys.h"
 
 #include <csignal>
@@ -273,6 +274,88 @@ TEST(RehearsalWindow, ShowsItsPanelBesideThePictureAndHidesIt) {
     EXPECT_TRUE(becomes(true));
     room.Press("Tab", "Tab");
     EXPECT_TRUE(becomes(false));
+}
+
+namespace {
+
+/// A copy of a mesh that is half as wide.
+std::string narrowed(std::string mesh) {
+    for (std::size_t at = 0; (at = mesh.find(" X:", at)) != std::string::npos; at += 3) {
+        std::size_t const end = mesh.find(' ', at + 3);
+        mesh.replace(at + 3, end - at - 3, std::to_string(std::stod(mesh.substr(at + 3)) / 2));
+    }
+    return mesh;
+}
+
+} // namespace
+
+TEST(RehearsalWindow, ShowsAModelThatChangesOnDiskAtTheSameBeat) {
+    Room room({"--at", "270", "--mute", "--no-panel"});
+    ASSERT_TRUE(room.Open());
+    auto const before = room.screen.Look();
+    std::string const good = support::read_all(room.folder.Path("data/HARD-title.asc"));
+    auto const start = std::chrono::steady_clock::now();
+    room.folder.Write("data/HARD-title.asc", narrowed(good));
+    EXPECT_THAT(room.Line("data: built"), MatchesRegex("data: built anew in [0-9]+ ms"));
+    auto const took = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(took, 2s); // 200 ms on a machine that does nothing else
+    RecordProperty("milliseconds",
+                   static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(took).count()));
+    std::this_thread::sleep_for(500ms);
+    auto const after = room.screen.Look();
+    EXPECT_FALSE(after == before);
+    EXPECT_EQ(number(room.Press("m", "M"), "frame"), frame_at(270 * one_beat));
+
+    // Broken, the show goes on as it was; renamed over it, the good one is back.
+    room.folder.Write("data/HARD-title.asc", good.substr(0, good.size() / 3));
+    EXPECT_THAT(room.Line("data: "), testing::StartsWith("data: data/HARD-title.asc"));
+    EXPECT_EQ(number(room.Press("Home", "Home"), "frame"), 0);
+    EXPECT_EQ(number(room.Press("l", "L"), "frame"), 0);
+    room.folder.Write("new", good);
+    fs::rename(room.folder.Path("new"), room.folder.Path("data/HARD-title.asc"));
+    EXPECT_THAT(room.Line("data: built"), MatchesRegex("data: built anew in [0-9]+ ms"));
+    EXPECT_EQ(room.Line("data: all"), "data: all is well");
+    EXPECT_EQ(room.process->Error(), "Setting vertical sync not supported\n");
+}
+
+TEST(RehearsalWindow, PlaysOnWhileAFileIsSavedAHundredTimesASecond) {
+    Room room({"--at", "270", "--mute", "--no-panel", "--play"});
+    ASSERT_TRUE(room.Open());
+    std::string const good = support::read_all(room.folder.Path("data/HARD-title.asc"));
+    std::string const other = narrowed(good);
+    for (int i = 0; i < 200; ++i) {
+        room.folder.Write("data/HARD-title.asc", i % 2 == 0 ? other : good);
+        std::this_thread::sleep_for(10ms);
+    }
+    EXPECT_NE(room.Line("data: built"), "");
+    room.folder.Write("data/HARD-title.asc", other + "nonsense");
+    EXPECT_NE(room.Line("data: data/HARD-title.asc"), "") << "the last one is seen";
+    EXPECT_TRUE(room.process->Running());
+}
+
+TEST(RehearsalWindow, OutlivesItsDataAndItsMusic) {
+    Room room({"--at", "270", "--no-panel", "--play"});
+    ASSERT_TRUE(room.Open());
+    fs::rename(room.folder.Path("data"), room.folder.Path("away"));
+    EXPECT_EQ(room.Line("data: data/"), "data: data/weknow.asc is missing");
+    EXPECT_EQ(room.Line("data/rump2"), "data/rump2.ogg is missing");
+    EXPECT_EQ(number(room.Press("Home", "Home"), "frame") < 60, true) << "back, by the copy";
+    fs::rename(room.folder.Path("away"), room.folder.Path("data"));
+    EXPECT_EQ(room.Line("data: all"), "data: all is well");
+    room.folder.Write("data/rump2.ogg", "no sound");
+    EXPECT_THAT(room.Line("data: data/rump2"), HasSubstr("data/rump2.ogg is not Ogg Vorbis"));
+    EXPECT_TRUE(room.process->Running());
+}
+
+TEST(RehearsalWindow, IsSilentWithoutMusicOrADevice) {
+    Room without_music({"--play"});
+    fs::remove(without_music.folder.Path("data/rump2.ogg"));
+    ASSERT_TRUE(without_music.Open());
+    EXPECT_NE(without_music.Press("space", "Space"), "");
+    Room without_device({"--play"}, "320x240", {"ALSOFT_DRIVERS=none"});
+    ASSERT_TRUE(without_device.Open());
+    EXPECT_EQ(without_device.Line("data: "), "data: soundtrack, no sound device; the show is silent");
+    EXPECT_NE(without_device.Press("space", "Space"), "");
 }
 
 TEST(RehearsalWindow, EndsWhenItIsAskedTo) {
