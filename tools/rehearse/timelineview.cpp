@@ -48,9 +48,11 @@ public:
     }
 
     /// A text that is cut off at an edge.
-    void Text(ImFont* font, float x, float top, float right, ImU32 color, std::string const& words) {
-        ImVec4 const clip(x, top - 4, right, top + font->FontSize + 4);
-        list.AddText(font, font->FontSize, ImVec2(x, top), color, words.c_str(), nullptr, 0, &clip);
+    /// @param size  of the letters, pixels; 0 for the font's own
+    void Text(ImFont* font, float x, float top, float right, ImU32 color, std::string const& words, float size = 0) {
+        if (size <= 0) size = font->FontSize;
+        ImVec4 const clip(x, top - 4, right, top + size + 4);
+        list.AddText(font, size, ImVec2(x, top), color, words.c_str(), nullptr, 0, &clip);
     }
 
     void Wave(Waveform const& waveform, float top, float height) {
@@ -145,6 +147,7 @@ std::string draw_cues(StripDrawing& drawing, Timeline const& timeline, TimelineS
     float const unit = drawing.my_overlay.Scale();
     float const lane = std::min(16 * unit, height / static_cast<float>(std::max(1, scene.lanes)));
     ImFont* const font = drawing.my_overlay.Small();
+    float const letters = std::min(font->FontSize, lane - 1); // many lanes are low ones
     auto const kinds = timeline.Kinds();
     std::string pointed_at;
     for (TimelineCue const& cue : scene.cues) {
@@ -155,7 +158,7 @@ std::string draw_cues(StripDrawing& drawing, Timeline const& timeline, TimelineS
         drawing.Rect(from, to, y, y + lane - 1, opaque(cue_color(static_cast<std::size_t>(kind))), 2 * unit);
         float const x = drawing.s.Clamped(from);
         float const right = drawing.s.Clamped(to);
-        drawing.Text(font, x + 4 * unit, y + (lane - font->FontSize) / 2 - 1, right - 3, bright, cue.Label());
+        drawing.Text(font, x + 4 * unit, y + (lane - letters) / 2 - 1, right - 3, bright, cue.Label(), letters);
         if (ImGui::IsMouseHoveringRect(ImVec2(x, y), ImVec2(right, y + lane))) {
             pointed_at = cue.kind + (cue.model.empty() ? "" : " " + cue.model) + ", beats " + std::to_string(cue.from) +
                          " to " + std::to_string(cue.from + cue.beats);
@@ -206,12 +209,12 @@ std::optional<int> TimelineView::Show(Overlay const& overlay, Timeline const& ti
     float const wide = window.x - left - 14 * unit;
     float const top = window.y - Height(overlay) + 6 * unit;
 
-    Strip const whole{left, top, wide, 82 * unit, 0, static_cast<float>(timeline.Beats())};
+    Strip const whole{left, top, wide, 72 * unit, 0, static_cast<float>(timeline.Beats())};
     StripDrawing show(overlay, whole);
     draw_whole_show(show, timeline, waveform, current);
     show.Head(transport);
 
-    float const detail_top = top + 90 * unit;
+    float const detail_top = top + 79 * unit;
     Strip const scene{left,
                       detail_top,
                       wide,

@@ -12,7 +12,7 @@
 class TimelineView {
 public:
     /// Height that it takes at the lower edge of the window, pixels.
-    static float Height(Overlay const& overlay) { return 300 * overlay.Scale(); }
+    static float Height(Overlay const& overlay) { return 316 * overlay.Scale(); }
 
     /// Shows it for this frame.
     /// @return the frame that the mouse points at while its button is down

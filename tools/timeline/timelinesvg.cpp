@@ -169,8 +169,9 @@ private:
             for (int k = 0; k < step; ++k) loudest = std::max(loudest, part(i + k));
             std::string const x = number(X((i + step / 2.0) / Waveform::per_beat));
             double const swing = std::min(1.0, loudest) * wave_height / 2;
-            above += (above.empty() ? "M" : "L") + x + " " + number(middle - swing);
-            below.insert(0, "L" + x + " " + number(middle + swing));
+            char const* const end = i / step % 8 == 7 ? "\n" : ""; // of the line of text
+            above += (above.empty() ? "M" : "L") + x + " " + number(middle - swing) + end;
+            below.insert(0, end + ("L" + x) + " " + number(middle + swing));
         }
         out.Add("<path class=\"" + std::string(style) + "\" d=\"" + above + below + "Z\"/>\n");
     }
@@ -193,7 +194,7 @@ private:
         if (w <= 0) return;
         double const top = y + cue.lane * cue_height;
         out.Add("<g><title>" + Drawing::Escaped(cue.kind + (cue.model.empty() ? "" : " " + cue.model)) + ", beats " +
-                std::to_string(cue.from) + " to " + std::to_string(cue.from + cue.beats) + "</title>");
+                std::to_string(cue.from) + " to " + std::to_string(cue.from + cue.beats) + "</title>\n");
         out.Rect(x + 1, top, w - 4, cue_height - 2.5, fill(color).c_str(), 2.5);
         auto const room = static_cast<std::size_t>(std::max(0.0, (w - 6) / letter_width));
         if (room >= 2) out.Text(x + 5, top + 9.5, "cue", cue.Label().substr(0, room));
@@ -223,7 +224,7 @@ private:
             out.Rect(X(at), y + 3.5, X(to) - X(at) - 2, 4, fill(kind.color, " opacity=\"0.3\"").c_str());
         }
         out.Add("<g><title>" + std::string(kind.name) + " " + std::to_string(event.value) + ", beat " +
-                short_beat(event.at) + "</title>");
+                short_beat(event.at) + "</title>\n");
         out.Rect(X(at), y + 1, 2, event_height - 3, fill(kind.color).c_str());
         out.Add("</g>\n");
     }
