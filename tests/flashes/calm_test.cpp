@@ -97,7 +97,7 @@ TEST(CalmUnrest, IsForEverybodyWhenItIsPausedAndResumedAtRandom) {
     expect_calm(screening);
 }
 
-/// Stalls for a second every three, from a place on.
+/// Stalls for a second every three, from a place on. Three of these reach every place of the show.
 void stall_through(double place) {
     SCOPED_TRACE(testing::Message() << "stalls from " << place << " s on");
     Screening screening(calm, usual_rate);
@@ -111,8 +111,6 @@ void stall_through(double place) {
 
 TEST(CalmUnrest, IsForEverybodyWhenItStallsAnywhere) {
     for (double const place : {0.0, 1.0, 2.0}) stall_through(place);
-    std::mt19937 random = dice();
-    stall_through(roll(random, 0, 3));
 }
 
 TEST(CalmPictures, AreNotEmptyForLongerThanInTheFullShow) {

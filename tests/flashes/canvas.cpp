@@ -27,11 +27,14 @@ Clip at_near(Clip const& a, Clip const& b) { return between(a, b, before_near(a)
 /// The first pixel whose centre lies at or past an edge, which is at 0 or above.
 int nearest(float edge) { return static_cast<int>(edge + 0.5f); }
 
-bool beyond_one_side(std::span<Clip const> points) {
-    auto const all = [points](auto test) { return std::ranges::all_of(points, test); };
-    return all([](Clip const& p) { return p.x < -p.w; }) || all([](Clip const& p) { return p.x > p.w; }) ||
-           all([](Clip const& p) { return p.y < -p.w; }) || all([](Clip const& p) { return p.y > p.w; }) ||
-           all([](Clip const& p) { return p.z < -p.w; }) || all([](Clip const& p) { return p.z > p.w; });
+// Bits of Corner::beyond: a plane each (Cohen and Sutherland), and two for points that have no place.
+constexpr int sides = 0x3f;
+constexpr int at_or_behind_near = 0x40;
+constexpr int nowhere = 0x80;
+
+int outcode(Clip const& p) {
+    return (p.x < -p.w) | (p.x > p.w) << 1 | (p.y < -p.w) << 2 | (p.y > p.w) << 3 | (p.z < -p.w) << 4 |
+           (p.z > p.w) << 5 | (before_near(p) > 0 ? 0 : at_or_behind_near) | (finite(p) ? 0 : nowhere);
 }
 
 } // namespace
@@ -53,9 +56,22 @@ Canvas::Point Canvas::Project(Clip const& p) const {
     return {(p.x * f + 1) / 2 * static_cast<float>(width), (1 - p.y * f) / 2 * static_cast<float>(height), p.z * f};
 }
 
-void Canvas::Triangle(Clip const& a, Clip const& b, Clip const& c, float level) {
-    std::array<Clip, 3> const corners = {a, b, c};
-    if (beyond_one_side(corners) || !finite(a) || !finite(b) || !finite(c)) return;
+Canvas::Corner Canvas::Place(Clip const& p) const {
+    int const beyond = outcode(p);
+    return {p, beyond < at_or_behind_near ? Project(p) : Point{}, beyond};
+}
+
+void Canvas::Triangle(Corner const& a, Corner const& b, Corner const& c, float level) {
+    int const any = a.beyond | b.beyond | c.beyond;
+    if ((a.beyond & b.beyond & c.beyond & sides) != 0 || (any & nowhere) != 0) return;
+    if ((any & at_or_behind_near) != 0) {
+        FillBeforeNear({a.clip, b.clip, c.clip}, level);
+    } else {
+        Fill(a.point, b.point, c.point, level);
+    }
+}
+
+void Canvas::FillBeforeNear(std::array<Clip, 3> const& corners, float level) {
     std::array<Point, 4> points{};
     std::size_t count = 0;
     for (std::size_t i = 0; i < 3; ++i) {
@@ -68,6 +84,13 @@ void Canvas::Triangle(Clip const& a, Clip const& b, Clip const& c, float level) 
 }
 
 void Canvas::Fill(Point a, Point b, Point c, float level) {
+    auto const bottom = static_cast<float>(height);
+    auto const right = static_cast<float>(width);
+    auto const misses_centres = [](float p, float q, float r, float edge) {
+        return nearest(std::clamp(std::min({p, q, r}), 0.0f, edge)) ==
+               nearest(std::clamp(std::max({p, q, r}), 0.0f, edge));
+    };
+    if (misses_centres(a.y, b.y, c.y, bottom) || misses_centres(a.x, b.x, c.x, right)) return; // as small ones do
     float const area = (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
     if (area == 0) return;
     float const dzdx = ((b.z - a.z) * (c.y - a.y) - (c.z - a.z) * (b.y - a.y)) / area;
@@ -75,8 +98,6 @@ void Canvas::Fill(Point a, Point b, Point c, float level) {
     if (a.y > b.y) std::swap(a, b);
     if (b.y > c.y) std::swap(b, c);
     if (a.y > b.y) std::swap(a, b);
-    auto const bottom = static_cast<float>(height);
-    auto const right = static_cast<float>(width);
     float const slope = (c.x - a.x) / (c.y - a.y);
     float const upper = (b.x - a.x) / (b.y - a.y);
     float const lower = (c.x - b.x) / (c.y - b.y);
@@ -92,16 +113,13 @@ void Canvas::Fill(Point a, Point b, Point c, float level) {
     }
 }
 
-void Canvas::Line(Clip const& a, Clip const& b, float level) {
-    std::array<Clip, 2> ends = {a, b};
-    if (beyond_one_side(ends) || !finite(a) || !finite(b)) return;
-    bool const hidden_a = before_near(a) <= 0;
-    bool const hidden_b = before_near(b) <= 0;
-    if (hidden_a && hidden_b) return;
-    if (hidden_a) ends[0] = at_near(a, b);
-    if (hidden_b) ends[1] = at_near(a, b);
-    Point const p = Project(ends[0]);
-    Point const q = Project(ends[1]);
+void Canvas::Line(Corner const& a, Corner const& b, float level) {
+    if ((a.beyond & b.beyond & (sides | at_or_behind_near)) != 0 || ((a.beyond | b.beyond) & nowhere) != 0) return;
+    auto const end = [&](Corner const& c) {
+        return (c.beyond & at_or_behind_near) != 0 ? Project(at_near(a.clip, b.clip)) : c.point;
+    };
+    Point const p = end(a);
+    Point const q = end(b);
     float const steps = std::max(std::abs(q.x - p.x), std::abs(q.y - p.y));
     auto const bottom = static_cast<float>(height);
     auto const right = static_cast<float>(width);

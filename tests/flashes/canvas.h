@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -26,18 +27,28 @@ public:
     /// Covers all with one level, infinitely far away.
     void Clear(float level);
 
-    /// Draws what lies between the near and the far plane. Points that are not finite draw nothing.
-    void Triangle(Clip const& a, Clip const& b, Clip const& c, float level);
-
-    /// A line has one pixel in so many that it is on the whole as thin as on a screen 1024 pixels wide.
-    void Line(Clip const& a, Clip const& b, float level);
-
-private:
     struct Point {
         float x, y, z; ///< pixels from the upper left corner, depth from -1 (near) to 1 (far)
     };
 
+    /// A point made ready to be a corner of many triangles and lines.
+    struct Corner {
+        Clip clip;
+        Point point; ///< where it is before the near plane
+        int beyond;  ///< a bit for each thing that keeps it out of the picture
+    };
+
+    Corner Place(Clip const& p) const;
+
+    /// Draws what lies between the near and the far plane. Points that are not finite draw nothing.
+    void Triangle(Corner const& a, Corner const& b, Corner const& c, float level);
+
+    /// A line has one pixel in so many that it is on the whole as thin as on a screen 1024 pixels wide.
+    void Line(Corner const& a, Corner const& b, float level);
+
+private:
     Point Project(Clip const& p) const;
+    void FillBeforeNear(std::array<Clip, 3> const& corners, float level);
     void Fill(Point a, Point b, Point c, float level);
     void Put(int x, int y, float z, float level) {
         auto const i = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);

@@ -4,24 +4,88 @@
 #include <GL/glu.h>
 #include <array>
 #include <cmath>
+#include <map>
 #include <numbers>
+#include <stdexcept>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace {
 
 using flashes::Clip;
+using Corner = flashes::Canvas::Corner;
 using Matrix = std::array<float, 16>; // column by column
 
 struct Vertex {
     float x, y, z;
 };
 
-/// One call inside a display list; a vertex, or one of the other two.
-struct Entry {
-    enum Kind { Begin, Corner, End } kind;
-    GLenum primitive;
-    Vertex vertex;
+/// Puts triangles and lines together from the corners between glBegin and glEnd. The end draws nothing more.
+template<class T>
+class Assembly {
+public:
+    void Begin(GLenum primitive_) {
+        if (primitive_ != GL_LINES && primitive_ != GL_TRIANGLES && primitive_ != GL_QUADS &&
+            primitive_ != GL_POLYGON) {
+            throw std::logic_error("the painter cannot draw primitive " + std::to_string(primitive_));
+        }
+        primitive = primitive_;
+        count = 0;
+    }
+
+    /// @param draw  called with two corners for a line, with three for a triangle
+    template<class Draw>
+    void Add(T const& next, Draw const& draw) {
+        c[count++] = next;
+        if (primitive == GL_LINES && count == 2) {
+            draw(c[0], c[1]);
+            count = 0;
+        } else if (primitive == GL_TRIANGLES && count == 3) {
+            draw(c[0], c[1], c[2]);
+            count = 0;
+        } else if (primitive == GL_QUADS && count == 4) {
+            draw(c[0], c[1], c[2]);
+            draw(c[0], c[2], c[3]);
+            count = 0;
+        } else if (primitive == GL_POLYGON && count == 3) {
+            draw(c[0], c[1], c[2]);
+            c[1] = c[2];
+            count = 2;
+        }
+    }
+
+private:
+    GLenum primitive = GL_LINES;
+    std::array<T, 4> c{}; // of a polygon the first and the last two
+    std::size_t count = 0;
+};
+
+/// A display list, with each vertex but once however many triangles and lines share it.
+class List {
+public:
+    struct Shape {
+        std::array<std::size_t, 3> corners; // indices of vertices
+        bool is_line;
+    };
+
+    void Begin(GLenum primitive) { assembly.Begin(primitive); }
+    void Add(Vertex const& v) {
+        auto const [place, is_new] = indices.try_emplace({v.x, v.y, v.z}, vertices.size());
+        if (is_new) vertices.push_back(v);
+        assembly.Add(place->second, [this](auto... corners) {
+            shapes.push_back({{corners...}, sizeof...(corners) == 2});
+        });
+    }
+
+    std::vector<Vertex> const& Vertices() const { return vertices; }
+    std::vector<Shape> const& Shapes() const { return shapes; }
+
+private:
+    std::vector<Vertex> vertices;
+    std::vector<Shape> shapes;
+    std::map<std::array<float, 3>, std::size_t> indices;
+    Assembly<std::size_t> assembly;
 };
 
 constexpr Matrix identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
@@ -36,11 +100,11 @@ struct State {
     float color = 1;
     float clear_level = 0;
     bool saw_colour = false;
-    GLenum primitive = 0;
-    std::vector<Clip> corners; // of the primitive in progress
-    std::unordered_map<GLuint, std::vector<Entry>> lists;
+    Assembly<Corner> assembly; // of what is in no list
+    std::unordered_map<GLuint, List> lists;
     GLuint next_list = 1;
-    std::vector<Entry>* compiling = nullptr;
+    List* compiling = nullptr;
+    std::vector<Corner> placed; // the vertices of a list that is called
 
     std::vector<Matrix>& Stack() { return in_projection ? projection : model_view; }
 };
@@ -64,50 +128,18 @@ void multiply_top(Matrix const& m) {
     state.is_combined = false;
 }
 
-Clip transform(Vertex const& v) {
+Corner transform(Vertex const& v) {
     if (!state.is_combined) {
         state.combined = multiply(state.projection.back(), state.model_view.back());
         state.is_combined = true;
     }
     Matrix const& m = state.combined;
     auto const row = [&](std::size_t r) { return m[r] * v.x + m[4 + r] * v.y + m[8 + r] * v.z + m[12 + r]; };
-    return {row(0), row(1), row(2), row(3)};
+    return state.canvas.Place({row(0), row(1), row(2), row(3)});
 }
 
-void begin(GLenum primitive) {
-    state.primitive = primitive;
-    state.corners.clear();
-}
-
-void corner(Vertex const& v) {
-    auto& c = state.corners;
-    c.push_back(transform(v));
-    if (state.primitive == GL_LINES && c.size() == 2) {
-        state.canvas.Line(c[0], c[1], state.color);
-        c.clear();
-    } else if (state.primitive == GL_TRIANGLES && c.size() == 3) {
-        state.canvas.Triangle(c[0], c[1], c[2], state.color);
-        c.clear();
-    } else if (state.primitive == GL_QUADS && c.size() == 4) {
-        state.canvas.Triangle(c[0], c[1], c[2], state.color);
-        state.canvas.Triangle(c[0], c[2], c[3], state.color);
-        c.clear();
-    }
-}
-
-void end() {
-    auto const& c = state.corners;
-    if (state.primitive == GL_POLYGON) {
-        for (std::size_t i = 2; i < c.size(); ++i) state.canvas.Triangle(c[0], c[i - 1], c[i], state.color);
-    }
-    state.corners.clear();
-}
-
-/// Puts a call into the list under compilation, if there is one.
-bool compiled(Entry const& entry) {
-    if (state.compiling) state.compiling->push_back(entry);
-    return state.compiling;
-}
+void draw(Corner const& a, Corner const& b) { state.canvas.Line(a, b, state.color); }
+void draw(Corner const& a, Corner const& b, Corner const& c) { state.canvas.Triangle(a, b, c, state.color); }
 
 struct Direction {
     double x, y, z;
@@ -144,18 +176,24 @@ bool saw_colour() { return state.saw_colour; }
 extern "C" {
 
 void glBegin(GLenum primitive) {
-    if (!compiled({Entry::Begin, primitive, {}})) begin(primitive);
+    if (state.compiling) {
+        state.compiling->Begin(primitive);
+    } else {
+        state.assembly.Begin(primitive);
+    }
 }
 
 void glVertex3f(GLfloat x, GLfloat y, GLfloat z) {
-    if (!compiled({Entry::Corner, 0, {x, y, z}})) corner({x, y, z});
+    if (state.compiling) {
+        state.compiling->Add({x, y, z});
+    } else {
+        state.assembly.Add(transform({x, y, z}), [](auto const&... corners) { draw(corners...); });
+    }
 }
 
 void glVertex3fv(GLfloat const* v) { glVertex3f(v[0], v[1], v[2]); }
 
-void glEnd() {
-    if (!compiled({Entry::End, 0, {}})) end();
-}
+void glEnd() {}
 
 GLuint glGenLists(GLsizei range) {
     GLuint const first = state.next_list;
@@ -165,7 +203,7 @@ GLuint glGenLists(GLsizei range) {
 
 void glNewList(GLuint list, GLenum) {
     state.compiling = &state.lists[list];
-    state.compiling->clear();
+    *state.compiling = {};
 }
 
 void glEndList() { state.compiling = nullptr; }
@@ -173,13 +211,14 @@ void glEndList() { state.compiling = nullptr; }
 void glCallList(GLuint list) {
     auto const found = state.lists.find(list);
     if (found == state.lists.end()) return;
-    for (Entry const& entry : found->second) {
-        if (entry.kind == Entry::Corner) {
-            corner(entry.vertex);
-        } else if (entry.kind == Entry::Begin) {
-            begin(entry.primitive);
+    std::vector<Corner>& placed = state.placed;
+    placed.clear();
+    for (Vertex const& v : found->second.Vertices()) placed.push_back(transform(v));
+    for (auto const& [corners, is_line] : found->second.Shapes()) {
+        if (is_line) {
+            draw(placed[corners[0]], placed[corners[1]]);
         } else {
-            end();
+            draw(placed[corners[0]], placed[corners[1]], placed[corners[2]]);
         }
     }
 }

@@ -19,7 +19,7 @@ XScreen& own_screen() {
 }
 
 bool moves_in_time(XScreen const& screen) {
-    auto const until = std::chrono::steady_clock::now() + at_once;
+    auto const until = std::chrono::steady_clock::now() + patience;
     while (!window::moves(screen)) {
         if (std::chrono::steady_clock::now() > until) return false;
     }
@@ -45,6 +45,11 @@ std::string what_was_said(std::string const& error, int lines, bool exactly, std
 
 } // namespace
 
+std::string Watch::Complaint(char const* what, std::chrono::milliseconds within) const {
+    auto const took = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    return took <= within ? "" : std::string(late) + what + " after " + std::to_string(took.count()) + " ms";
+}
+
 std::string program(std::string const& name) { return HARDSILENCE_BINARY_DIR "/" + name; }
 
 Words joined(Words first, Words const& second) {
@@ -67,8 +72,11 @@ std::string shown(std::string const& text) {
 std::string own_display() { return own_screen().Name(); }
 
 std::string end_complaint(Command const& command, End const& end) {
+    Watch const watch;
     support::Outcome const outcome = support::run(
-        with_shell(command), {.folder = command.folder, .environment = command.environment, .limit = end.within});
+        with_shell(command),
+        {.folder = command.folder, .environment = command.environment, .limit = std::max(end.within, patience)});
+    std::string const too_late = watch.Complaint("it ends", end.within);
     int const status = outcome.signal ? 128 + outcome.signal : outcome.status;
     if (outcome.signal == SIGKILL && std::count(end.status.begin(), end.status.end(), status) == 0) {
         return "did not end in time: " + shown(outcome.error);
@@ -77,23 +85,29 @@ std::string end_complaint(Command const& command, End const& end) {
         return "status " + std::to_string(status) + ": " + shown(outcome.error);
     }
     if (end.prints && outcome.output != *end.prints) return "prints " + shown(outcome.output);
-    return what_was_said(outcome.error, end.lines, true, end.says);
+    std::string const complaint = what_was_said(outcome.error, end.lines, true, end.says);
+    return complaint.empty() ? too_late : complaint;
 }
 
 std::string play_complaint(Command command, Play const& play) {
     command.environment.push_back("DISPLAY=" + own_display());
+    Watch const start;
     Process process(with_shell(command), command.environment, command.folder);
     bool const found = own_screen().FindShow() || own_screen().FindShow(); // which waits ten seconds
     if (!found) return "no picture: " + shown(process.Error());
+    std::string too_late = start.Complaint("the window is there");
     std::this_thread::sleep_for(play.time);
     if (!process.Running()) return "ended: " + shown(process.Error());
     if (!moves_in_time(own_screen())) return "the picture stands: " + shown(process.Error());
+    Watch const end;
     process.Signal(play.signal);
-    auto const status = process.Wait(at_once);
+    auto const status = process.Wait(patience);
+    too_late += end.Complaint("it ends");
     if (!status) return "does not end: " + shown(process.Error());
     if (*status != play.status) return "status " + std::to_string(*status) + ": " + shown(process.Error());
     if (process.Output().find(play.prints) == std::string::npos) return "prints " + shown(process.Output());
-    return what_was_said(process.Error(), play.most_lines, false, play.says);
+    std::string const complaint = what_was_said(process.Error(), play.most_lines, false, play.says);
+    return complaint.empty() ? too_late : complaint;
 }
 
 Cell ends(std::string name, Command command, End end) {

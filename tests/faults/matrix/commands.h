@@ -26,8 +26,24 @@ struct Kind {
 std::string program(std::string const& name);
 inline std::string const show = program("hardsilence");
 
-/// How long what ends "within two seconds" may take where other tests hold the processor too.
-constexpr std::chrono::milliseconds at_once{15000};
+/// How long a program may take to show its first picture, to tell of a fault, and to end when it is asked to.
+constexpr std::chrono::milliseconds at_once{2000};
+
+/// How long the program waits for a display that does not answer: one at the end of a long line may take its time.
+constexpr std::chrono::milliseconds time_for_an_answer{10000};
+
+/// How long a program is waited for; between the two it is late, which beside other cells may be their doing.
+constexpr std::chrono::milliseconds patience{15000};
+
+/// Time since it was made.
+class Watch {
+public:
+    /// @return "" within that time, else a complaint that begins with `late`
+    std::string Complaint(char const* what, std::chrono::milliseconds within = at_once) const;
+
+private:
+    std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
+};
 
 /// How a program is run.
 struct Command {

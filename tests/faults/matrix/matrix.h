@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The matrix of faults: what can go wrong around the programs, and how each of them must end then. A group is a list
@@ -14,6 +15,9 @@ struct Cell {
     std::function<std::string()> fail; ///< tries it; "" if all is right, else a line that says what is not
 };
 
+/// How a complaint about time alone begins.
+inline constexpr std::string_view late = "late: ";
+
 struct Group {
     char const* name;
     char const* what; ///< in a few words
@@ -24,7 +28,8 @@ struct Group {
 /// All groups, in the order of their report.
 std::vector<Group> all_groups();
 
-/// Tries the cells, some at a time where they may, each in a process that they do not share with others.
+/// Tries the cells, some at a time where they may, each in a process that they do not share with others. Those that are
+/// late and nothing else are tried again one by one, a few times.
 /// @param workers  how many at a time
 /// @return "" for each cell that is right, else its complaint
 std::vector<std::string> try_cells(std::vector<Cell> const& cells, int workers);

@@ -90,12 +90,13 @@ void add_bad_calls(std::vector<Cell>& cells) {
             char const* const says = way == "fails"   ? "This display"
                                      : way == "hangs" ? "does not answer."
                                                       : "it crashed.";
-            cells.push_back({call + ' ' + way, [call, way, says] {
+            auto const within = at_once + (way == "hangs" ? time_for_an_answer : std::chrono::milliseconds(0));
+            cells.push_back({call + ' ' + way, [call, way, says, within] {
                                  Words const environment = {"DISPLAY=" + own_display(),
                                                             "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY, "BAD_CALL=" + call,
                                                             "BAD_WAY=" + way};
                                  return end_complaint({.arguments = small_show(), .environment = environment},
-                                                      {.says = says, .within = 2 * at_once});
+                                                      {.says = says, .within = within});
                              }});
         }
     }

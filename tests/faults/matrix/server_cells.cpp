@@ -40,14 +40,15 @@ public:
 constexpr char const* note = "Setting vertical sync not supported\n";
 
 std::string ends_with_a_line(Process& show, std::string const& says) {
-    constexpr milliseconds longest = at_once + milliseconds(10000); // that is the time for an answer
-    auto const status = show.Wait(longest);
+    Watch const watch;
+    auto const status = show.Wait(time_for_an_answer + patience);
+    std::string const too_late = watch.Complaint("it ends", time_for_an_answer + at_once);
     std::string error = show.Error();
     if (!status) return "does not end: " + shown(error);
     if (*status != 1) return "status " + std::to_string(*status) + ": " + shown(error);
     if (error.rfind(note, 0) == 0) error.erase(0, std::strlen(note));
     if (lines_of(error) != 1) return shown(error);
-    return error.find(says) == std::string::npos ? "says " + shown(error) : "";
+    return error.find(says) == std::string::npos ? "says " + shown(error) : too_late;
 }
 
 std::string dies_after(milliseconds time, std::vector<std::string> const& environment) {
@@ -66,11 +67,14 @@ std::string stops_after(milliseconds time, int signal) {
     std::this_thread::sleep_for(time);
     server.process.Signal(SIGSTOP);
     std::this_thread::sleep_for(milliseconds(300));
+    Watch const watch;
     process.Signal(signal);
-    auto const status = process.Wait(at_once);
+    auto const status = process.Wait(patience);
+    std::string const too_late = watch.Complaint("it ends");
     if (!status) return "does not end";
     // Before the signals are caught they end the program as they end any other.
-    return *status == 0 || *status == 128 + signal ? "" : "status " + std::to_string(*status) + shown(process.Error());
+    return *status == 0 || *status == 128 + signal ? too_late
+                                                   : "status " + std::to_string(*status) + shown(process.Error());
 }
 
 /// Where a server of this number has its socket.

@@ -53,7 +53,7 @@ XScreen& switched_screen() {
 
 std::string mode_of(XScreen const& screen) {
     Process list({"xrandr", "--current"}, {"DISPLAY=" + screen.Name()});
-    if (list.Wait(at_once) != 0) return "none: " + list.Error();
+    if (list.Wait(patience) != 0) return "none: " + list.Error();
     std::string const text = list.Output(); // the line of the mode that is in use has a star
     auto const star = text.find('*');
     auto const line = star == std::string::npos ? star : text.rfind('\n', star);
@@ -64,7 +64,7 @@ std::string mode_of(XScreen const& screen) {
 
 /// Waits for a mode: it is given back when the program may have ended already.
 bool comes_to(XScreen const& screen, std::string const& mode) {
-    auto const until = std::chrono::steady_clock::now() + at_once;
+    auto const until = std::chrono::steady_clock::now() + patience;
     while (mode_of(screen) != mode) {
         if (std::chrono::steady_clock::now() > until) return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -80,11 +80,13 @@ std::string fail(Way const& way, std::vector<std::string> const& environment) {
     Process process({show, "-width", "640", "-nofsaa", "-mute", "-novsync", "-limit", "5"}, changes);
     if (!screen.FindShow()) return "no picture: " + shown(process.Error());
     if (!comes_to(screen, "640x480")) return "the mode is not switched: " + mode_of(screen);
+    Watch const watch;
     way.act(screen, process);
-    auto const status = process.Wait(at_once);
+    auto const status = process.Wait(patience);
     if (!status) return "does not end";
     if (way.status >= 0 && *status != way.status) return "status " + std::to_string(*status);
-    return comes_to(screen, desktop_mode) ? "" : "the screen is left at " + mode_of(screen);
+    if (!comes_to(screen, desktop_mode)) return "the screen is left at " + mode_of(screen);
+    return watch.Complaint("the screen is given back");
 }
 
 } // namespace
