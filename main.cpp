@@ -28,7 +28,6 @@ bool quit = false;
 
 namespace {
 
-constexpr char const* music_file = "data/rump2.ogg";
 constexpr int music_frequency = 48000; // Hz
 constexpr int last_beat = 9998;        // safety stop
 bool sound_hangs = false;              // at the end of the show
@@ -106,8 +105,8 @@ void key_released(Controls& controls, sf::Keyboard::Key key) {
 
 void music_init(std::shared_ptr<kore::Music>& music) {
     if (!music_enabled) return;
-    if (music->LoadFromFile(music_file, music_frequency)) {
-        kore::report_error(kore::places::music_init, std::string("Couldn't open music from file ") + music_file);
+    if (music->LoadFromFile(soundtrack_file, music_frequency)) {
+        kore::report_error(kore::places::music_init, std::string("Couldn't open music from file ") + soundtrack_file);
     }
 }
 
@@ -217,7 +216,7 @@ namespace {
 bool data_is_good() {
     std::string wrong = check_meshes();
     if (wrong.empty() && music_enabled) {
-        wrong = check_soundtrack(music_file);
+        wrong = check_soundtrack(soundtrack_file);
         if (!wrong.empty()) wrong += "; -mute plays without it";
     }
     if (!wrong.empty()) std::cerr << wrong << std::endl;
@@ -225,7 +224,7 @@ bool data_is_good() {
 }
 
 int play(DroppingStreams& streams) {
-    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) {
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE, mesh_files().front().name); !missing.empty()) {
         std::cerr << missing << std::endl;
         return 1;
     }

@@ -14,6 +14,15 @@ class Blinker final : public kore::Entity {
 public:
     using BlinkerType = kore::BlinkerInterface::BlinkerType;
 
+    /// One scheduled event.
+    struct Entry {
+        float start;  ///< of its window, seconds of scene time
+        float length; ///< of its window, seconds
+        BlinkerType type;
+        int value;
+        bool done; ///< has fired
+    };
+
     char const* Name() override { return "Blinker"; }
 
     /// Appends a target. One that is added twice gets each event twice.
@@ -24,6 +33,9 @@ public:
     /// @param start   start of the window, seconds of scene time
     /// @param length  length of the window, seconds; 0 never fires
     void AddEntry(float start, float length, BlinkerType type, int value);
+
+    /// What is scheduled, in the order added.
+    std::vector<Entry> const& Entries() const { return myEntries; }
 
     /// Deliberate: stored and never read.
     void SetFreq(int const& freq) { myFreq = freq; }
@@ -38,14 +50,6 @@ public:
     void Draw() override {}
 
 private:
-    struct Entry {
-        float start;
-        float length;
-        BlinkerType type;
-        int value;
-        bool done;
-    };
-
     int myFreq = 2;
     std::vector<std::shared_ptr<kore::BlinkerInterface>> myTargets;
     std::vector<Entry> myEntries;

@@ -69,6 +69,8 @@ public:
     /// Scale along x, y, z; initially 1.
     void SetScale(kore::Vector3<float> const& scale) { myScale = scale; }
 
+    std::string const& ModelName() const { return myModel->name; }
+
     /// Draws every piece's values again, continuing the generator's sequence.
     /// @param set  used at once and not kept; must not be null
     void ResetValues(ValueSetInterface* set);

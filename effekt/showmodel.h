@@ -39,6 +39,9 @@ public:
     /// Scale along x, y, z; initially 1.
     void SetScale(kore::Vector3<float> const& scale) { myScale = scale; }
 
+    /// Display list of the faces; the library tells the model's name by it.
+    unsigned int FaceList() const { return myModel; }
+
 private:
     void DrawScaled(unsigned int list) const;
 

@@ -30,6 +30,9 @@ public:
     /// Scale along x, y, z; initially 1.
     void SetScale(kore::Vector3<float> const& scale) { myScale = scale; }
 
+    /// Display list of the faces; the library tells the model's name by it.
+    unsigned int FaceList() const { return myModel; }
+
 private:
     unsigned int myModel = 0;     ///< display list of the faces
     unsigned int myWireframe = 0; ///< display list of the edges

@@ -148,6 +148,12 @@ bool AscModel::WfByName(std::string const& name, unsigned int& list) const {
     return found != nullptr;
 }
 
+std::string AscModel::NameOf(unsigned int list) const {
+    auto const found =
+        std::find_if(store.begin(), store.end(), [&](auto const& model) { return model->model == list; });
+    return found == store.end() ? "" : (*found)->name;
+}
+
 std::shared_ptr<SingleAscModelFull> AscModel::ModelByNameFull(std::string const& name) const {
     auto const found =
         std::find_if(full_store.begin(), full_store.end(), [&](auto const& model) { return model->name == name; });

@@ -84,6 +84,10 @@ public:
     /// @return the object of the per-triangle store, or an empty pointer
     std::shared_ptr<SingleAscModelFull> ModelByNameFull(std::string const& name) const;
 
+    /// @param list  of an object's triangles
+    /// @return the name of the object of the ordinary store; "" if there is none with this list
+    std::string NameOf(unsigned int list) const;
+
     /// @param index  position in the ordinary store, not checked
     unsigned int& ModelByIndex(int const& index) { return store[static_cast<std::size_t>(index)]->model; }
 

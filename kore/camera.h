@@ -18,6 +18,7 @@ public:
 
     /// The point looked at: units of the scene, initially (0, 0, 0).
     void SetLookPos(kore::Vector3<float> const& pos) { look = pos; }
+    kore::Vector3<float> const& GetLookPos() const { return look; }
     void IncLookPos(kore::Vector3<float> const& by) { look += by; }
 
     /// Draws the box of a camera's frustum as seven red quads, for looking at a camera from another one.

@@ -25,6 +25,9 @@ public:
     /// with relative-to-camera true, or the camera is never drawn.
     void AddCamera(std::shared_ptr<Enabler> e);
 
+    /// The camera's enabler; null before AddCamera.
+    std::shared_ptr<Enabler> GetCamera() const { return camera; }
+
     /// @return beats
     int const& GetLength() const { return length; }
     std::vector<std::shared_ptr<Enabler>>& GetEnablers() { return enablers; }

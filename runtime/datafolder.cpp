@@ -9,8 +9,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char const* mark = "data/weknow.asc";
-
 std::vector<fs::path> places(std::string const& share) {
     std::error_code error;
     fs::path const working = fs::current_path(error);
@@ -25,7 +23,8 @@ std::vector<fs::path> places(std::string const& share) {
 
 } // namespace
 
-std::string enter_data_folder(std::string const& share) {
+std::string enter_data_folder(std::string const& share, std::string const& first_file) {
+    std::string const mark = "data/" + first_file;
     std::string tried;
     for (fs::path const& place : places(share)) {
         std::error_code error;
@@ -35,5 +34,5 @@ std::string enter_data_folder(std::string const& share) {
         }
         tried += (tried.empty() ? "" : ", ") + place.string();
     }
-    return std::string("Cannot find the show's ") + mark + " in any of " + tried;
+    return "Cannot find the show's " + mark + " in any of " + tried;
 }

@@ -31,6 +31,12 @@ public:
     void ReleaseAll() { movement &= movement_camera; }
 
     void ToggleFree() { free = !free; }
+
+    /// Puts it where it is to see from, and has it look at a point: units of the scene.
+    void Place(kore::Vector3<float> const& from, kore::Vector3<float> const& at) {
+        eye = from;
+        look = at;
+    }
     void ToggleTarget() { movement ^= movement_camera; }
     void ResetRotation() { rotation = {0, 0, 0}; }
 

@@ -1,10 +1,6 @@
 #include "show/show.h"
 
-#include <algorithm>
-#include <cassert>
-#include <iterator>
-
-std::shared_ptr<kore::AscModel> models;
+char const* const soundtrack_file = "data/rump2.ogg";
 
 namespace {
 
@@ -25,15 +21,3 @@ constexpr SceneEntry scenes[] = {
 } // namespace
 
 std::span<SceneEntry const> running_order() { return scenes; }
-
-char const* title_of(SceneFunction make) {
-    auto const* const entry =
-        std::find_if(std::begin(scenes), std::end(scenes), [&](SceneEntry const& scene) { return scene.make == make; });
-    assert(entry != std::end(scenes));
-    return entry->title;
-}
-
-void init_demo(kore::Demo& demo, std::shared_ptr<kore::Music> /*music*/, float const& beat) {
-    models = std::make_shared<kore::AscModel>("data/");
-    for (SceneEntry const& scene : scenes) demo.AddScene(scene.make(beat));
-}

@@ -9,6 +9,12 @@
 #include <memory>
 #include <span>
 
+// A show is its running order, its soundtrack and its mesh files (show/datacheck.h). A program that links those of
+// another show plays, records and rehearses that one; see examples/own-show.
+
+/// The music, from the folder that holds "data/".
+extern char const* const soundtrack_file;
+
 /// The model library that every scene of the show takes its meshes from.
 extern std::shared_ptr<kore::AscModel> models;
 

@@ -3,6 +3,7 @@
 #include "tests/effekt/support.h"
 
 #include <cmath>
+#include <tuple>
 
 using effect_test::state_at;
 using testing::ElementsAre;
@@ -106,6 +107,19 @@ TEST_F(Blinker, NeverFiresAnEntryWhoseWindowPassesBetweenTwoFrames) {
     EXPECT_EQ(EventsAt(0.9f), 0u);
     EXPECT_EQ(EventsAt(1.3f), 0u);
     EXPECT_EQ(EventsAt(2), 0u);
+}
+
+TEST_F(Blinker, TellsWhatIsScheduledAndWhatHasFired) {
+    blinker.AddEntry(3, 5, Type::Invert, 1);
+    blinker.AddEntry(1, 9, Type::Strobe, 12);
+    blinker.UpdateLogic(state_at(2));
+    ASSERT_EQ(blinker.Entries().size(), 2u);
+    effect::Blinker::Entry const& first = blinker.Entries()[0];
+    effect::Blinker::Entry const& second = blinker.Entries()[1];
+    EXPECT_EQ(std::tie(first.start, first.length, first.type, first.value, first.done),
+              std::make_tuple(3.0f, 5.0f, Type::Invert, 1, false));
+    EXPECT_EQ(std::tie(second.start, second.length, second.type, second.value, second.done),
+              std::make_tuple(1.0f, 9.0f, Type::Strobe, 12, true));
 }
 
 TEST_F(Blinker, FiresSeveralEntriesOfAFrameInTheirOrderAndNotInThatOfTheirTimes) {

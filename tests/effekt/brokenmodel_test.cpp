@@ -9,6 +9,7 @@ namespace {
 
 TEST_F(BrokenModel, CompilesEveryTriangleByItself) {
     EXPECT_STREQ(model->Name(), "BrokenModel");
+    EXPECT_EQ(model->ModelName(), "thing");
     EXPECT_EQ(gl::list_content(1), "Begin(TRIANGLES) Vertex(0,0,0) Vertex(1,0,0) Vertex(1,1,0) End");
     EXPECT_EQ(gl::list_content(2), "Begin(TRIANGLES) Vertex(0,0,0) Vertex(1,1,0) Vertex(0,1,0) End");
     EXPECT_EQ(gl::list_content(4), "Begin(LINES) LineWidth(1) Vertex(0,0,0) Vertex(1,1,0) Vertex(1,1,0) Vertex(0,1,0) "

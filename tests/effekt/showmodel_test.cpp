@@ -190,6 +190,11 @@ TEST_F(ShowModel, UsesAModelThatTheLibraryHolds) {
     EXPECT_EQ(models->size(), 1u);
 }
 
+TEST_F(ShowModel, TellsTheListOfItsFaces) {
+    effect::ShowModel const model(models, "thing", "");
+    EXPECT_EQ(models->NameOf(model.FaceList()), "thing");
+}
+
 using ShowModelDeathTest = ShowModel;
 
 TEST_F(ShowModelDeathTest, EndsTheProgramWithoutItsModel) {

@@ -33,6 +33,11 @@ TEST_F(SimpleModel, DrawsWhiteFacesAndBlackLinesOverThem) {
                             "PopMatrix");
 }
 
+TEST_F(SimpleModel, TellsTheListOfItsFaces) {
+    effect::SimpleModel const model(models, "thing", "");
+    EXPECT_EQ(models->NameOf(model.FaceList()), "thing");
+}
+
 TEST_F(SimpleModel, CompilesTheFacesAndTheVisibleEdgesOfItsFile) {
     effect::SimpleModel model(models, "thing", "");
     model.InternalDraw();

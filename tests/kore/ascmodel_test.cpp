@@ -122,6 +122,18 @@ TEST_F(AscModel, FindsTheFirstOfSeveralWithOneName) {
     EXPECT_EQ(models.ModelByNameFull("pyramid")->count, 4u);
 }
 
+TEST_F(AscModel, TellsTheNameOfAnObjectByItsTriangles) {
+    int const edges[3][3] = {};
+    models.GenList("boat", 4, 3, 3, verts, faces, edges);
+    models.GenList("ship", 4, 3, 3, verts, faces, edges);
+    EXPECT_EQ(models.NameOf(models.ModelByIndex(0)), "boat");
+    EXPECT_EQ(models.NameOf(models.ModelByIndex(1)), "ship");
+    unsigned int lines = 0;
+    ASSERT_TRUE(models.WfByName("ship", lines));
+    EXPECT_EQ(models.NameOf(lines), "");
+    EXPECT_EQ(models.NameOf(17), "");
+}
+
 TEST_F(AscModel, ComparesWholeNamesExactly) {
     models.LoadModel("good.asc");
     unsigned int list = 0;

@@ -92,6 +92,9 @@ TEST_F(Camera, IsNothingButALookAtWithYUp) {
     camera.SetPos({1, 2, 3});
     camera.SetRot({90, 90, 90}); // not used
     camera.SetLookPos({4, 5, 6});
+    EXPECT_EQ(camera.GetLookPos().x, 4);
+    EXPECT_EQ(camera.GetLookPos().y, 5);
+    EXPECT_EQ(camera.GetLookPos().z, 6);
     camera.IncLookPos({0.5f, 0, 0});
     camera.Draw();
     EXPECT_EQ(gl::calls(), "LookAt(1,2,3,4.5,5,6,0,1,0)");

@@ -50,6 +50,11 @@ TEST_F(Scene, IsAsLongAsItsLatestEnablerWhateverTheCameraDoes) {
     EXPECT_EQ(scene.GetEnablers().size(), 3u);
 }
 
+TEST_F(Scene, HandsOutItsCamera) {
+    EXPECT_EQ(scene.GetCamera()->GetEntity(), camera);
+    EXPECT_FALSE(kore::Scene("Empty").GetCamera());
+}
+
 TEST_F(Scene, UpdatesItsCameraAndThenItsEnablersInOrder) {
     auto moved = std::make_shared<Enabler>(camera, 0, 64, beat, true);
     moved->AddMutator(std::make_shared<probes::SetX>("camera", 1.0f, &events));

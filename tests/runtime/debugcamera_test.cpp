@@ -24,6 +24,14 @@ TEST(DebugCamera, StandsAtTheOriginAndLooksAlongNegativeZ) {
     EXPECT_EQ(view.HeldMovement(), 0u);
 }
 
+TEST(DebugCamera, IsPutSomewhere) {
+    DebugCamera view;
+    view.Place({1, 2, 3}, {4, 5, 6});
+    EXPECT_THAT(view.Eye(), Is(1, 2, 3));
+    EXPECT_THAT(view.Look(), Is(4, 5, 6));
+    EXPECT_FALSE(view.IsFree());
+}
+
 TEST(DebugCamera, HasTheBitsOfItsMovements) {
     std::uint64_t const bits[] = {movement_z_in,     movement_z_out,      movement_y_up,       movement_y_down,
                                   movement_x_left,   movement_x_right,    movement_rot_x_left, movement_rot_x_right,

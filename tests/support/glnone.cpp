@@ -27,6 +27,7 @@ WEAK void glColor3fv(GLfloat const*) {}
 WEAK void glColor4f(GLfloat, GLfloat, GLfloat, GLfloat) {}
 WEAK void glNewList(GLuint, GLenum) {}
 WEAK void glEndList() {}
+WEAK void glDeleteLists(GLuint, GLsizei) {}
 WEAK void glClearDepth(GLclampd) {}
 WEAK void glEnable(GLenum) {}
 WEAK void glDisable(GLenum) {}

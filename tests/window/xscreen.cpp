@@ -177,6 +177,17 @@ void XScreen::Up(std::string const& key) const {
     Process({"xdotool", "keyup", key}, {"DISPLAY=" + name}).Wait(std::chrono::seconds(5));
 }
 
+void XScreen::Point(int x, int y) const {
+    Area const place = WindowPlace();
+    Hammer({"mousemove", std::to_string(place.x + x), std::to_string(place.y + y)});
+}
+
+void XScreen::Click(int button) const { Hammer({"click", std::to_string(button)}); }
+
+void XScreen::ButtonDown(int button) const { Hammer({"mousedown", std::to_string(button)}); }
+
+void XScreen::ButtonUp(int button) const { Hammer({"mouseup", std::to_string(button)}); }
+
 void XScreen::Hammer(std::vector<std::string> const& strokes) const {
     std::vector<std::string> command = {"xdotool"};
     command.insert(command.end(), strokes.begin(), strokes.end());

@@ -53,6 +53,14 @@ public:
     void Down(std::string const& key) const;
     void Up(std::string const& key) const;
 
+    /// Moves the pointer to a place in the window.
+    void Point(int x, int y) const;
+
+    /// Turns the wheel up, or presses and releases a button of the mouse, in X's numbers.
+    void Click(int button) const;
+    void ButtonDown(int button) const;
+    void ButtonUp(int button) const;
+
     /// Presses and releases keys in a hurry.
     /// @param strokes  "keydown", a key, "keyup", a key and so on, in xdotool's words
     void Hammer(std::vector<std::string> const& strokes) const;

@@ -20,14 +20,13 @@
 
 namespace {
 
-constexpr char const* music_file = "data/rump2.ogg";
 constexpr unsigned int most_jobs_unasked = 4;
 
 /// @return 0 samples if it cannot be read
 Soundtrack measure_music() {
     sf::err().rdbuf(nullptr); // the caller says it
     sf::InputSoundFile file;
-    if (!file.openFromFile(music_file)) return {};
+    if (!file.openFromFile(soundtrack_file)) return {};
     return {static_cast<long long>(file.getSampleCount() / file.getChannelCount()),
             static_cast<int>(file.getSampleRate())};
 }
@@ -47,7 +46,7 @@ EncoderTask encoder_task(RecordOptions const& options, FilmPlan const& plan, Sou
             .width = options.width,
             .height = options.height,
             .plan = plan,
-            .music = options.film.sound ? music_file : "",
+            .music = options.film.sound ? soundtrack_file : "",
             .sample_rate = music.rate,
             .calm = options.calm};
 }
@@ -159,7 +158,7 @@ void Production::TidyUp() {
 int make_film(RecordOptions const& options) {
     Soundtrack const music = measure_music();
     if (music.samples == 0 && options.film.sound && !options.film.file.empty()) {
-        return complain(std::string("cannot read ") + music_file + "; --no-sound makes a silent film");
+        return complain(std::string("cannot read ") + soundtrack_file + "; --no-sound makes a silent film");
     }
     if (!options.film.file.empty() && !options.calm && isatty(STDERR_FILENO)) {
         std::cerr << film_notice(false) << " --calm has no strobes.\n";

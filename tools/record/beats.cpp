@@ -86,6 +86,14 @@ int frame_at(Millibeats at) {
     return grid.FrameAt(at);
 }
 
+Millibeats moment_of(int frame) {
+    constexpr long long minute = 60; // seconds
+    auto at =
+        static_cast<Millibeats>(static_cast<long long>(frame) * one_beat * beats_per_minute / (minute * recorded_rate));
+    while (frame_at(at) > frame) --at; // a beat that the clock counts on the frame after
+    return at;
+}
+
 std::optional<Millibeats> parse_beat(std::string const& text) {
     char const* const end = text.data() + text.size();
     double beats = 0;

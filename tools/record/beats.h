@@ -23,6 +23,10 @@ constexpr int most_beats = 999;
 /// @param at  from the show's first beat, 0 to most_beats
 int frame_at(Millibeats at);
 
+/// The moment of a frame: the latest one whose frame it is.
+/// @param frame  from 0 on
+Millibeats moment_of(int frame);
+
 /// The frames of the beats at any rate.
 class FrameGrid {
 public:

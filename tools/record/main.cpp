@@ -1,4 +1,5 @@
 #include "effekt/look.h"
+#include "runtime/commandline.h"
 #include "runtime/datafolder.h"
 #include "runtime/frame.h"
 #include "runtime/playback.h"
@@ -13,6 +14,7 @@
 #include "tools/record/options.h"
 #include "tools/record/sheet.h"
 #include "tools/record/timetable.h"
+#include "tools/timeline/timelinesvg.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -127,6 +129,15 @@ std::vector<Millibeats> overview(Timetable const& timetable) {
     return beats;
 }
 
+int draw_timeline(kore::Demo& demo, std::string const& path) {
+    Timeline const timeline = make_timeline(demo, models.get(), beat_seconds);
+    Waveform const waveform = read_waveform(soundtrack_file, static_cast<double>(beat_seconds));
+    std::string const error = write_file(path, timeline_svg(timeline, waveform, window_title));
+    if (!error.empty()) return complain(error);
+    std::cout << printable(path) << std::endl;
+    return 0;
+}
+
 int record(RecordOptions options) {
     if (std::string const wrong = check_meshes(); !wrong.empty()) return complain(wrong);
     OffscreenContext context;
@@ -141,6 +152,7 @@ int record(RecordOptions options) {
         print_list(timetable);
         return 0;
     }
+    if (!options.timeline.empty()) return draw_timeline(demo, options.timeline);
     if (options.overview) options.beats = overview(timetable);
     std::vector<Shot> shots;
     if (!plan_shots(timetable, options, shots)) return 1;
@@ -164,10 +176,11 @@ int run(int argc, char** argv) {
     RecordOptions options;
     if (auto const status = read_command_line(argc, argv, options)) return *status;
     effect::look = {.standard_wire = options.wire, .calm = options.calm};
-    for (std::string* const path : {&options.folder, &options.sheet, &options.film.file}) {
+    for (std::string* const path : {&options.folder, &options.sheet, &options.timeline, &options.film.file}) {
         if (!make_absolute(*path)) return 1;
     }
-    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE); !missing.empty()) return complain(missing);
+    if (std::string const missing = enter_data_folder(HARDSILENCE_SHARE, mesh_files().front().name); !missing.empty())
+        return complain(missing);
     return options.film.Wanted() ? make_film(options) : record(options);
 }
 

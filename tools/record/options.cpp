@@ -26,6 +26,8 @@ bool read_size(std::string const& value, RecordOptions& options) {
            read_number(value.substr(x + 1), 1u, largest_side, options.height);
 }
 
+bool is_svg_name(std::string const& path) { return path.ends_with(".svg"); }
+
 bool read_text(std::string const& value, std::string& text) {
     text = value;
     return !value.empty();
@@ -72,6 +74,8 @@ void add_picture_options(CLI::App& app, RecordOptions& options) {
               "Write each picture to DIR/beat_012.400.png, of a scene NAME_012.400.png");
     add_value(app, "--sheet", "FILE", [&](Value v) { return read_text(v, options.sheet) && is_png_name(v); },
               "a path that ends in .png", "Write a contact sheet of the pictures");
+    add_value(app, "--timeline", "FILE", [&](Value v) { return read_text(v, options.timeline) && is_svg_name(v); },
+              "a path that ends in .svg", "Draw what happens when: scenes, cues, events and the sound");
     add_value(app, "--columns", "N", [&](Value v) { return read_number(v, 1u, most_columns, options.columns); },
               "a number from 1 to 100", "Pictures per row of the sheet (5)");
 }
@@ -98,6 +102,12 @@ std::string film_fault(RecordOptions const& options, FilmFormat const* format) {
         return std::string(format->ending) + " takes an even width and height";
     }
     return film_conflict(film, !options.scene.empty());
+}
+
+std::string timeline_fault(RecordOptions const& options) {
+    bool const pictures =
+        !options.beats.empty() || options.overview || !options.folder.empty() || !options.sheet.empty();
+    return pictures || options.film.Wanted() ? "either a timeline or pictures and films" : "";
 }
 
 /// Fills in what was left open.
@@ -127,6 +137,10 @@ std::optional<int> read_command_line(int argc, char const* const* argv, RecordOp
     FilmFormat const* const format = find_format(options.film.file);
     complete(options, format);
     if (options.list) return std::nullopt;
+    if (!options.timeline.empty()) {
+        std::string const fault = timeline_fault(options);
+        return fault.empty() ? std::nullopt : std::optional(complain(fault));
+    }
     std::string const fault = options.film.Wanted() ? film_fault(options, format) : picture_fault(options);
     return fault.empty() ? std::nullopt : std::optional(complain(fault));
 }

@@ -26,6 +26,7 @@ struct RecordOptions {
     unsigned int columns = 5;
     bool overview = false; ///< the moments in the running order of every scene, instead of beats
     bool list = false;
+    std::string timeline; ///< the picture of the show's timeline; "" for none
     FilmOptions film;
 };
 

@@ -86,6 +86,17 @@ TEST(Beats, AreShownByTheFirstFrameAtOrAfterThem) {
     }
 }
 
+TEST(Beats, AreToldOfEveryFrame) {
+    EXPECT_EQ(moment_of(0), 0);
+    EXPECT_EQ(moment_of(150), 5500);
+    EXPECT_EQ(moment_of(151), 5536);
+    for (int frame = 0; frame < frame_at(384 * one_beat); ++frame) {
+        Millibeats const at = moment_of(frame);
+        ASSERT_EQ(frame_at(at), frame);
+        ASSERT_GT(frame_at(at + 1), frame);
+    }
+}
+
 TEST(Beats, WaitForTheClockWhereItIsAFrameLate) {
     EXPECT_EQ(frame_at(44000), 1200);
     EXPECT_EQ(frame_at(55000), 1501);

@@ -48,6 +48,12 @@ TEST(RecordOptions, ListNeedsNothingElse) {
     EXPECT_TRUE(outcome.options.list);
 }
 
+TEST(RecordOptions, ATimelineNeedsNothingElse) {
+    Outcome const outcome = read({"--timeline", "a.svg"});
+    EXPECT_FALSE(outcome.status.has_value());
+    EXPECT_EQ(outcome.options.timeline, "a.svg");
+}
+
 TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
     std::string const no_beats = " is not a list of beats such as 0.5,3.25 or 0:16:0.5, to thousandths";
     std::string const no_picture = "no beats to record, see --beats; nor a film, see --film";
@@ -74,6 +80,9 @@ TEST(RecordOptions, FaultsGetOneLineAndStatusOne) {
         {{"--sheet", ""},             "--sheet: '' is not a path that ends in .png"},
         {{"--sheet", "a.jpg"},        "--sheet: 'a.jpg' is not a path that ends in .png"},
         {{"--scene", ""},             "--scene: '' is not a scene's name; --list shows them"},
+        {{"--timeline", "a.png"},     "--timeline: 'a.png' is not a path that ends in .svg"},
+        {{"--timeline", "a.svg", "--beats", "1"}, "either a timeline or pictures and films"},
+        {{"--timeline", "a.svg", "--film", "b.mp4"}, "either a timeline or pictures and films"},
         {{"--size", "1024"},          "--size: '1024'" + no_size},
         {{"--size", "1024x"},         "--size: '1024x'" + no_size},
         {{"--size", "x768"},          "--size: 'x768'" + no_size},
@@ -101,7 +110,7 @@ TEST(RecordOptions, HelpNamesEveryOption) {
         EXPECT_EQ(outcome.error, "");
         for (char const* const name :
              {"--beats LIST", "--out DIR", "--sheet FILE", "--scene NAME", "--frame-after", "--size WxH", "--samples N",
-              "--columns N", "--overview", "--wire", "--no-wire", "--list"}) {
+              "--columns N", "--overview", "--timeline FILE", "--wire", "--no-wire", "--list"}) {
             EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + name));
         }
     }

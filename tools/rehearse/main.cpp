@@ -1,0 +1,3 @@
+#include "tools/rehearse/rehearse.h"
+
+int main(int argc, char** argv) { return rehearse(argc, argv); }

@@ -1,0 +1,5 @@
+#pragma once
+
+/// The program hardsilence-rehearse, for the show that it is linked with.
+/// @return the exit status
+int rehearse(int argc, char** argv);
