@@ -28,6 +28,7 @@ bool Background::Start(std::vector<std::string> const& arguments) {
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP); // its children end with it
     std::vector<std::string> words = arguments;
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
     int const error = posix_spawnp(&pid, argv[0], &actions, &attributes, argv.data(), environ);
@@ -60,7 +61,7 @@ bool Background::Poll() {
 
 void Background::Read() {
     char part[4096];
-    for (ssize_t got; (got = read(output, part, sizeof part)) > 0;) {
+    for (ssize_t got = 0; (got = read(output, part, sizeof part)) > 0;) {
         for (ssize_t i = 0; i < got; ++i) {
             if (part[i] != '\n') {
                 beginning += part[i];

@@ -8,7 +8,7 @@
 class FlyCamera {
 public:
     /// Takes the place of another camera.
-    void StartAt(kore::Vector3<float> const& eye, kore::Vector3<float> const& look);
+    void StartAt(kore::Vector3<float> const& from, kore::Vector3<float> const& look);
 
     /// Turns by so many pixels of the mouse: to the right, and down.
     void Turn(float x, float y);

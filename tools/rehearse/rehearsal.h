@@ -42,8 +42,10 @@ public:
 
 private:
     struct Show {
-        kore::Demo demo{beat_seconds};
-        Playback playback{demo, recorded_rate};
+        Show() : demo(beat_seconds), playback(demo, recorded_rate) {}
+
+        kore::Demo demo;
+        Playback playback;
     };
 
     void Build();

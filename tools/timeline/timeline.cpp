@@ -22,6 +22,7 @@ std::string model_of(kore::Entity* entity, kore::AscModel const* models) {
 /// @return how many lanes that takes
 int lay_out(std::vector<TimelineCue>& cues) {
     std::vector<TimelineCue*> in_time;
+    in_time.reserve(cues.size());
     for (TimelineCue& cue : cues) in_time.push_back(&cue);
     std::stable_sort(in_time.begin(), in_time.end(), [](auto const* a, auto const* b) { return a->from < b->from; });
     std::vector<int> free_from; // of each lane, beat of the show

@@ -3,6 +3,7 @@
 #include "runtime/beatclock.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <span>
 
@@ -265,9 +266,9 @@ void draw_legend(Drawing& out, Timeline const& timeline) {
 }
 
 std::string summary(Timeline const& timeline) {
-    int const seconds = static_cast<int>(static_cast<float>(timeline.Beats()) * beat_seconds + 0.5f);
-    char length[16];
-    std::snprintf(length, sizeof length, "%d:%02d", seconds / 60, seconds % 60);
+    auto const seconds = std::lround(static_cast<float>(timeline.Beats()) * beat_seconds);
+    char length[32];
+    std::snprintf(length, sizeof length, "%ld:%02ld", seconds / 60, seconds % 60);
     return std::to_string(timeline.scenes.size()) + " scenes, " + std::to_string(timeline.Beats()) + " beats, " +
            std::to_string(beats_per_minute) + " a minute, " + length;
 }

@@ -39,6 +39,7 @@ public:
     /// @return false where the window does not open
     bool Open() {
         environment_.push_back("DISPLAY=" + screen.Name());
+        environment_.push_back("TMPDIR=" + folder.Path("")); // what is killed leaves its copy of the data
         process = std::make_unique<Process>(options_, environment_, folder.Path(""));
         if (!screen.FindShow()) return false;
         std::this_thread::sleep_for(1s); // the first frames
