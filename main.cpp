@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "main.h"
 
 #include "kore/music-sfml.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Frames of the show drawn off-screen and not read back: what a film costs at the least. As fast as the driver can;
 // only the last frame is waited for.
 //

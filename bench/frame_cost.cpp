@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the show costs besides OpenGL: plays it on an OpenGL that does nothing, or, built as layer_cost, on the layer of
 // web/gl and a driver that does nothing. Prints how long its construction and the frames of every scene take. Under
 // callgrind the instructions are dumped per scene.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The show on the machine's driver, off-screen and as fast as it can: 60 frames for every second of the show, each of
 // which is waited for. Prints what came before the first picture, and for every scene the times of its frames, each one
 // measured.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How fast meshes are read: ours (on an OpenGL that does nothing), a literal getline-and-sscanf reader, the bare cost
 // of touching every byte, and two well-known readers of the same geometry as OBJ. Bytes a second and triangles a
 // second.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// An OpenGL on which nothing is drawn; which one is a matter of linking.

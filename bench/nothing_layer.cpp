@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The layer of web/gl on a driver that does nothing.
 
 #include "bench/nothing.h"

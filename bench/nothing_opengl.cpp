@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // OpenGL's entry points that do nothing, tests/support/glnone.cpp, want nothing.
 
 #include "bench/nothing.h"

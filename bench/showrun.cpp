@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/showrun.h"
 
 #include "show/show.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The honest floor under a frame: plays the show and writes frames of it as a C program, one call of OpenGL after the
 // other with constants for arguments. What that program takes is what the calls take by themselves. Under callgrind its
 // instructions are dumped per scene, like those of frame_cost.

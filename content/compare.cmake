@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Renders the models in the build folder BUILD and compares each of FILES in BUILT with DATA, byte by byte.
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${BUILD} --target models-render RESULT_VARIABLE status)
 if(NOT status EQUAL 0)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Renders one object: OPENSCAD, SOURCE (.scad), WHICH (object name, for sources of several), OUT (.stl, binary).
 # OpenSCAD says a lot and goes on after warnings; a warning here is a mistake in a model.
 execute_process(COMMAND ${OPENSCAD} --export-format binstl -D which="${WHICH}" -o ${OUT} ${SOURCE}

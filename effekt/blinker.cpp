@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/blinker.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/brokenmodel.h"
 
 #include "kore/reportedplaces.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/cubelist.h"
 
 #include <GL/gl.h>

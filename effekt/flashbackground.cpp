@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/flashbackground.h"
 
 namespace effect {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/modellists.h"
 
 namespace effect {

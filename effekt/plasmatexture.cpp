@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/plasmatexture.h"
 
 #include "kore/perspective.h"

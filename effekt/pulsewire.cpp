@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/pulsewire.h"
 
 #include "effekt/look.h"

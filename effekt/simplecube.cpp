@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/simplecube.h"
 
 #include "effekt/cubelist.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/simplemodel.h"
 
 #include "effekt/modellists.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/simpleplane.h"
 
 #include <GL/gl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/simpletransition.h"
 
 #include <GL/gl.h>

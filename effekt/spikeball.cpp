@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/spikeball.h"
 
 #include "effekt/cubelist.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any lines as the arguments of a command line.
 
 #include "fuzz/check.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any text, read by the show's readers and by the plain ones, getline and sscanf: both must find the same.
 
 #include "fuzz/check.h"

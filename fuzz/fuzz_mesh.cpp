@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes as a mesh file, loaded into both stores.
 
 #include "fuzz/check.h"

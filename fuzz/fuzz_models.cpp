@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the mesh tool does behind the library that reads models: any bytes as packed objects and as a mesh file, and any
 // small mesh on its way into the show.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any lines as the arguments of the recorder; any text as a list of beats; and sheets of any small pictures.
 
 #include "fuzz/check.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes as the first ones of a soundtrack.
 
 #include "fuzz/check.h"

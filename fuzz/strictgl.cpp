@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A stand-in for OpenGL that draws nothing and ends the run at the first call that a driver would refuse: lists within
 // lists, vertices outside of a primitive, names never generated. Every float that is passed is read.
 // Calls that meshes do not use do nothing (tests/support/glnone.cpp).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/ascfile.h"
 
 #include "kore/asclines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/asclines.h"
 
 #include <algorithm>

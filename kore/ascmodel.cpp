@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/ascmodel.h"
 
 #include "kore/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/camera.h"
 
 #include <GL/gl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/color.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/demo.h"
 
 #include <utility>

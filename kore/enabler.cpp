@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/enabler.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/entity.h"
 
 #include <GL/gl.h>

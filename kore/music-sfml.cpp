@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/music-sfml.h"
 
 #include "kore/reportedplaces.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/readfile.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/routepositioner.h"
 
 namespace kore {

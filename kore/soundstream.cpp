@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/soundstream.h"
 
 #include "kore/soundtrackfile.h"

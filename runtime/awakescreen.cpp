@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/awakescreen.h"
 
 #include "runtime/commandline.h"

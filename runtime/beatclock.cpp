@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/beatclock.h"
 
 void BeatClock::Count(kore::StateData& state) {

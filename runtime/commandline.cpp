@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/commandline.h"
 
 #include <SFML/Window/WindowStyle.hpp>

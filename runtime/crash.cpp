@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/crash.h"
 
 #include "runtime/display.h"

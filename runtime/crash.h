@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// From now on, a library that crashes because the display is lost ends the program with a line and status 1. Any other

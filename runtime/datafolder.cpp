@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/datafolder.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/display.h"
 
 #include "runtime/streams.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Xlib's header defines words such as None as macros, so it stays in the units.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/frame.h"
 
 #include "kore/frustum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Gives the desktop its video mode back where the program does not come to do so: a small process of its own waits for

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/monitors.h"
 
 #include "runtime/display.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/openglcheck.h"
 
 #include "runtime/streams.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/opening.h"
 
 #include "runtime/commandline.h"

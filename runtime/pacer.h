@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Holds a loop to a frame rate by deadlines: each frame is due one interval after the last was due, so that the rate

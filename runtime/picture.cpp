@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/picture.h"
 
 #include <GL/gl.h>

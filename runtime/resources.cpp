@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/resources.h"
 
 #include <algorithm>

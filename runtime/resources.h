@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Whether this process may have the files, memory, stack and threads that the libraries below the show take without a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// What is the viewer's choice besides the command line. With the defaults the program is the exact one.

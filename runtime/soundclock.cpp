@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/soundclock.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/stepper.h"
 
 #include "runtime/frame.h"

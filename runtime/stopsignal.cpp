@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/stopsignal.h"
 
 #include "runtime/deadline.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// From now on SIGHUP, SIGINT, SIGQUIT and SIGTERM ask the show to end, so that the desktop gets its video mode back;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/streams.h"
 
 #include <SFML/System/Err.hpp>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/timing.h"
 
 #include "runtime/commandline.h"

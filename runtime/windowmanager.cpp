@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/windowmanager.h"
 
 #include "runtime/display.h"

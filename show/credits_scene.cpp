@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show/score.h"
 #include "show/show.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show/shells.h"
 
 #include "effekt/look.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show/show.h"
 
 char const* const soundtrack_file = "data/rump2.ogg";

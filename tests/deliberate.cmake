@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Checks that every test that DELIBERATE.md names ("Suite.Name") exists in the sources of the tests.
 # cmake -DROOT=<source folder> -P deliberate.cmake
 cmake_minimum_required(VERSION 3.25)

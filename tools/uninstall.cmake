@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Removes the files that a manifest names, and the folders of ours that this leaves empty.
 #     cmake -DMANIFEST=install_manifest.txt -P uninstall.cmake
 if(NOT EXISTS "${MANIFEST}")

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Serves a folder on this machine alone and says the address.
 
 usage: serve.py FOLDER [PORT]     PORT: 0, the default, takes a free one

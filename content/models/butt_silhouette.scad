@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // First dancer, from behind: the weight on her right leg, that hip pushed out, the elbow above it raised
 // with the hand in her hair, the face turned over the other shoulder.
 use <lib/figure.scad>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The poster beside the dancers: every line set to one width.
 use <lib/lettering.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A slim ring with many segments: black on black, its lines keep it apart.
 use <lib/tube.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The frames: edges of solids as bars.
 include <lib/polyhedra.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pane that the tag breaks: rays and rings about the point of impact, shards small there and big at the rim.
 // One triangle is one shard, so the triangles are written by hand and not left to a mesher.
 

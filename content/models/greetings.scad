@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names of the groups greeted: slabs of lettering that tumble away.
 use <lib/lettering.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The big gun: a silenced pistol, muzzle to the left, 8 wide and 5 high on the mesh, centred.
 use <lib/figure.scad>
 use <lib/pistol.scad>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The woman with the pistol: a wide stance, weight on her right leg, right hand on the raised hip, head
 // in profile towards the pistol that she holds upright. Seen in two halves that must read alone:
 // y -4.9 to -0.3 (the legs as a gate) and y 0.3 to 4.9 (half-length portrait).

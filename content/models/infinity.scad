@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A thick figure eight: a tube along a curve that crosses itself at a distance. It stands in the plane across
 // (1, -1, 0), its long axis along z.
 use <lib/tube.scad>

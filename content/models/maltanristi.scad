@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A Maltese cross with roofed arms: eight tips, a ridge from the middle to every notch. It stands in the plane
 // across (1, -1, 0), an arm up.
 include <lib/polyhedra.scad>

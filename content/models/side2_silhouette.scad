@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Second dancer, from the side: she leans forward with a hollow back, both hands on the bent knee, and
 // throws her head and hair up.
 use <lib/figure.scad>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Third dancer, from the side, stretched on her toes: one arm up, head thrown back, the free leg bent
 // behind her. Drawn as the audience sees her and mirrored last, for the show turns her about her axis.
 use <lib/figure.scad>

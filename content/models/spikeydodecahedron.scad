@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A dodecahedron with a spike on every face.
 include <lib/polyhedra.scad>
 

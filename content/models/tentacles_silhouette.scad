@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tentacles that reach in from the upper left. The screen ends at x = -4.8 and y = 3.6 (drawn here in
 // natural proportions); a second copy, turned by half a turn, comes in from the lower right and is cut at
 // y = 1.6. The tunnel is seen at x 0 to 4.4 below y = 0.3.

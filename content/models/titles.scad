@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The three rows of the title, one block: flush left and right, the middle row the biggest.
 use <lib/lettering.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The ring of the tunnel and of the fountain: only its lines show, so it has few and long ones.
 use <lib/tube.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The words of the intro, one a beat, and the name tag.
 use <lib/lettering.scad>
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Draws docs/soundtrack.png: gnuplot -e "curves='FILE'; picture='FILE.png'" plot.gp
 # `curves` is what soundtrack_curves prints: loudness, bands and novelty over the beats of the show.
 set terminal pngcairo size 1500, 1000 font "sans,11"

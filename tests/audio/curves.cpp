@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints the soundtrack's curves for a plot: three blocks of columns, two blank lines between them.
 //   1  beat, momentary loudness (LUFS)
 //   2  beat, frequency (Hz), level (dB): one blank line after each half beat

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "soundtrack.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "soundtrack.h"
 
 #include <SFML/Audio/InputSoundFile.hpp>

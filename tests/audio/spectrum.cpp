@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "spectrum.h"
 
 #include "measure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "figure.h"
 #include "measure.h"
 #include "score.h"

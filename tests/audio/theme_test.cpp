@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "figure.h"
 #include "score.h"
 #include "soundtrack.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "variety.h"
 
 #include "soundtrack.h"

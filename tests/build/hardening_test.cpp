@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The programs as they are installed, read by readelf: what a fault in memory comes up against.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is installed, and what is left of it when it is removed.
 
 #include "tests/support/command.h"

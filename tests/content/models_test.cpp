@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every mesh in data/: what it holds, how big it is, and that the show can load, outline and shatter it.
 
 #include "tools/asc/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the ten reacting effects have in common: colours, strobe, and being reached.
 
 #include "effekt/blinker.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which events and flags each of the ten reacting effects responds to, and what it does to the matrix stack.
 
 #include "tests/effekt/reacting_effects.h"

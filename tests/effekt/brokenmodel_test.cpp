@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/effekt/brokenmodel.h"
 
 using broken::BrokenModel;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the pieces' values come from, and what ends the program.
 
 #include "tests/effekt/brokenmodel.h"

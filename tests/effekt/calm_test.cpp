@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calm mode of the reacting effects: a strobe is a cut that is held.
 
 #include "tests/effekt/reacting_effects.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/fft-visualizer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/flash.h"
 
 #include "tests/effekt/support.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/flashbackground.h"
 
 #include "tests/effekt/support.h"

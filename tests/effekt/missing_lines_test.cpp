@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The check for a model's lines. The library stores faces and lines together, so the check fails only if the library
 // loses its lines: this program is linked with a lookup that can be made to fail.
 

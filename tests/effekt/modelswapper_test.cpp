@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/modelswapper.h"
 
 #include "effekt/blinker.h"

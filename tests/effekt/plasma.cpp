@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/effekt/plasma.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The small effects: cube, ball, plane and transition.
 
 #include "effekt/blinker.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/pulsewire.h"
 
 #include "tests/effekt/support.h"

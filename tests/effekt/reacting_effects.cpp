@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/effekt/reacting_effects.h"
 
 #include "effekt/brokenmodel.h"

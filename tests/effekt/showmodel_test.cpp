@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/showmodel.h"
 
 #include "tests/effekt/support.h"

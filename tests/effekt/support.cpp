@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/effekt/support.h"
 
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/texturemountain.h"
 
 #include "tests/effekt/plasma.h"

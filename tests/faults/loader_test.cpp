@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every mesh file of the show, cut short and with damaged bytes, through the loader.
 
 #include "kore/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A damaged soundtrack. Plays through OpenAL's null output: CMakeLists.txt sets ALSOFT_DRIVERS.
 
 #include "kore/music-sfml.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The whole show with one damaged mesh file after another, each time in a process of its own: the show may abort with
 // an assertion report.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calm show before the flash meter: nothing fails, and nothing goes above two flashes a second, whatever happens.
 
 #include "show/show.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/flashes/canvas.h"
 
 #include <algorithm>

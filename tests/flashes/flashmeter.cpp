@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/flashes/flashmeter.h"
 
 #include <algorithm>

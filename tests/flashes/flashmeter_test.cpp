@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The flash meter before films whose verdict is known.
 
 #include "tests/flashes/flashmeter.h"

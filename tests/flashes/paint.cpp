@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paints frames of the show and prints them as the flash meter sees them: each in one line, row by row.
 //     paint full|calm FRAME...    frames in order, counted from 0, at 60 a second
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/flashes/painter.h"
 
 #include <GL/gl.h>

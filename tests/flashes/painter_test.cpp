@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The painter beside the driver: what the flash meter sees is what an audience sees.
 
 #include "runtime/frame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The film at the top of README before the flash meter.
 
 #include "tests/flashes/flashmeter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints docs/flashes.md: what the flash meter says about the full show and the calm one.
 
 #include "show/show.h"

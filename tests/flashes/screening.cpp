@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/flashes/screening.h"
 
 #include "runtime/frame.h"

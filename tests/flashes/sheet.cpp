@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes docs/calm.png: moments of every scene, in the full show and, to its right, in the calm one.
 
 #include "tools/record/sheet.h"

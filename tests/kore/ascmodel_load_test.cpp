@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/ascmodel.h"
 #include "tests/support/glrecorder.h"
 #include "tests/support/temp.h"

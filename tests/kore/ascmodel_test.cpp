@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/ascmodel.h"
 #include "tests/support/glstate.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/catmullrom.h"
 #include "tests/kore/probes.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/camera.h"
 #include "kore/demo.h"
 #include "tests/kore/probes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/cameraenabler.h"
 #include "kore/enabler.h"
 #include "tests/kore/probes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Plays through OpenAL's null output, which is silent and keeps time: CMakeLists.txt sets ALSOFT_DRIVERS.
 
 #include "kore/music-sfml.h"

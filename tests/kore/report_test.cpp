@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/readfile.h"
 #include "kore/report.h"
 #include "tests/support/temp.h"

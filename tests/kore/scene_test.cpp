@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/camera.h"
 #include "kore/scene.h"
 #include "tests/kore/probes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/smoothcam.h"
 #include "kore/smoothpositioner.h"
 #include "tests/kore/probes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Plays the show's own soundtrack through OpenAL's null output, which is silent and keeps time.
 
 #include "kore/music-sfml.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/soundtrackfile.h"
 
 #include "tests/support/temp.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/color.h"
 #include "kore/perspective.h"
 #include "kore/statedata.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How far the beat grid, a sum of floats, drifts from 132 beats a minute.
 
 #include "runtime/beatclock.h"

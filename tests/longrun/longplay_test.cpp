@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The longest possible show: somebody skips scenes with the debugging keys for 75 minutes.
 
 #include "main.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ten shows in one process use no more memory than two. Allocates by counting operators.
 
 #include "tests/show/scores.h"

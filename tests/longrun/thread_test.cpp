@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Playing, pausing and ending the music as fast as possible, while another thread streams it. The preset `tsan` runs
 // this under ThreadSanitizer.
 

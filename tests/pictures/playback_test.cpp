@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio.h"
 #include "tests/support/images.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "references.h"
 #include "studio.h"
 #include "tests/support/images.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The front door, in a checkout and in a prefix of its own, with stand-ins for what it calls: no package is installed
 // and nothing is compiled.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the programs look for data/. Without a display each ends before it has a window; what it says tells whether
 // it got past its data.
 

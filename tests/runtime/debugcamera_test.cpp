@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/debugcamera.h"
 #include "tests/support/glrecorder.h"
 

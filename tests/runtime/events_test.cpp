@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The event table of main.cpp.
 
 #include "kore/camera.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kore/camera.h"
 #include "runtime/datafolder.h"
 #include "runtime/environment.h"

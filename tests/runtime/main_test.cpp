@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // main.cpp itself, compiled with its main renamed demo_main.
 
 #include "main.h"

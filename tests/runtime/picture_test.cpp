@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/desktopwindow.h"
 #include "runtime/picture.h"
 #include "tests/support/glrecorder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/playback.h"
 
 #include "kore/camera.h"

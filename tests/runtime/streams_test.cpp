@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/streams.h"
 
 #include "tests/support/command.h"

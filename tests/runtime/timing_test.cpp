@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pace and sound in virtual time.
 
 #include "runtime/frametimes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/show/scores.h"
 #include "tests/show/wholeshow.h"
 #include "tests/support/allocations.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The stream of OpenGL calls is the product: every call of every frame, compared with recorded checksums.
 
 #include "tests/show/scores.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calm show, scene by scene: which colour everything has between the cuts.
 
 #include "tests/show/scenechecks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/show/scenechecks.h"
 
 using namespace scenes;

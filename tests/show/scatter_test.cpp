@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show/scatter.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/show/stage.h"
 
 #include "kore/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every scene's timeline, compared with tables of its own: what is on when, which events fire when, and whom they
 // reach.
 

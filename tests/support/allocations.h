@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Programs that link tests/support/allocations.cpp count their allocations.

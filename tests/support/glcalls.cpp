@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The other calls of the stand-in: primitives, display lists, state and textures.
 
 #include "tests/support/glstate.h"

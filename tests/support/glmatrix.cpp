@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The matrix calls of the stand-in: OpenGL 1.1, section 2.10, and GLU 1.2, chapter 4.
 
 #include "tests/support/glstate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An OpenGL whose entry points do nothing, not even allocate: only the program's own work remains. A program that
 // watches some of the calls defines those itself; its definitions take precedence.
 

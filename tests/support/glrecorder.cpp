@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/glrecorder.h"
 
 #include "tests/support/glstate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/glrecorder.h"
 
 #include <GL/gl.h>

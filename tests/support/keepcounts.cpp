@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // For coverage builds: writes the counts before a failed assertion aborts the program, so that death tests count.
 
 #include <csignal>

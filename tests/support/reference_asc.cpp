@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/reference_asc.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the layer does without a driver.
 
 #include "runtime/frame.h"

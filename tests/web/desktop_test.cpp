@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/command.h"
 #include "tests/support/temp.h"
 #include "tests/web/filmstrip.h"

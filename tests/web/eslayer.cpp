@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/web/eslayer.h"
 
 namespace {

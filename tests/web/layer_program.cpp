@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests ask of the layer in a process of its own, as it and a desktop driver define the same entry points.
 //
 // usage: layer_program frames FILE     draws the frames of the strip; FILE gets them, three bytes a pixel, upper row

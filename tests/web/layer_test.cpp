@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/images.h"
 #include "tests/web/eslayer.h"
 #include "tests/web/filmstrip.h"

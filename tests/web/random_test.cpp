@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "web/page/additiverandom.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The screen saver during the show, and the pointer over it.
 
 #include "tests/window/playing.h"

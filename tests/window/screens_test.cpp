@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The show on the screens that people have: full screen and in a window, with a window manager and without.
 
 #include "tests/window/playing.h"

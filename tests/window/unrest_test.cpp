@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a restless audience does to the program. With HARDSILENCE_LONG=1 for longer: some minutes.
 
 #include "tests/support/effort.h"

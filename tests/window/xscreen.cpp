@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/window/xscreen.h"
 
 #include <X11/Xlib.h>

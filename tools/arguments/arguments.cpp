@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/arguments/arguments.h"
 
 #include "tools/files/streams.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/check.h"
 
 #include "kore/asclimits.h"

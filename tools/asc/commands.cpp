@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/commands.h"
 
 #include "tools/asc/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/creases.h"
 
 #include "kore/edgerule.h"

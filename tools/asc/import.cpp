@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/import.h"
 
 #include "tools/asc/apart.h"

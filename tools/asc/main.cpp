@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The mesh tool: turns model files into the show's meshes, checks them and draws them.
 
 #include "tools/arguments/arguments.h"

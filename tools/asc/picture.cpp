@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/picture.h"
 
 #include "effekt/simplemodel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/refine.h"
 
 #include "tools/asc/ascfile.h"

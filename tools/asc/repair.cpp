@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/repair.h"
 
 #include "tools/asc/ascfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/files/newfile.h"
 
 #include <cerrno>

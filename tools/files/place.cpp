@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Puts files in a folder under their own names, as copies; each that differs is replaced whole or not at all.
 
 #include "tools/files/newfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/files/png.h"
 
 #include "tools/files/newfile.h"

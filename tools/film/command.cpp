@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/command.h"
 
 #include <cctype>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/encoder.h"
 
 #include "tools/film/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/film.h"
 
 #include "tools/film/encoder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/plan.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/renderer.h"
 
 #include "runtime/frame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/renderers.h"
 
 #include "tools/files/streams.h"

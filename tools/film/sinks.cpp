@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/film/sinks.h"
 
 #include "tools/film/descriptors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/lettering/lettering.h"
 
 #include <algorithm>

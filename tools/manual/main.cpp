@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes a program's manual page and completion scripts of its --help.
 //     manual PAGE FOLDER PROGRAM...
 // PAGE is mdoc with a line @OPTIONS@ where the options go, and perhaps @VERSION@; its name is that of the program and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/manual/pages.h"
 
 #include <sstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #define GL_GLEXT_PROTOTYPES // gl.h predates framebuffers
 #include "tools/offscreen/framebuffer.h"
 

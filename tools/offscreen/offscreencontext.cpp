@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/offscreen/offscreencontext.h"
 
 #include "runtime/streams.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/beats.h"
 
 #include "runtime/beatclock.h"

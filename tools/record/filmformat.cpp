@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/filmformat.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/filmoptions.h"
 
 #include "tools/arguments/arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/framerate.h"
 
 #include "tools/arguments/arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "effekt/look.h"
 #include "runtime/commandline.h"
 #include "runtime/datafolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/sheet.h"
 
 #include "tools/lettering/lettering.h"

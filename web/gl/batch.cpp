@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "web/gl/batch.h"
 
 #include <algorithm>

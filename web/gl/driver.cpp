@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "web/gl/driver.h"
 
 namespace fixedgl {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Wants GL_GLEXT_PROTOTYPES defined for the whole unit: gl.h has the first version's entry points alone.

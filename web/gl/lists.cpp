@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "web/gl/lists.h"
 
 #include "web/gl/state.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The matrix stacks: OpenGL 1.1, section 2.10.2.
 
 #include "web/gl/state.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Primitives, colours and display lists.
 
 #include "web/gl/fixedgl.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Clearing, and the state that the driver keeps.
 
 #include "web/gl/fixedgl.h"

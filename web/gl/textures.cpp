@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Textures. Without texture coordinates a texture shows its first texel everywhere (OpenGL 1.1, sections 2.7 and
 // 3.8.7: the current coordinates are 0, and the texel modulates the colour).
 

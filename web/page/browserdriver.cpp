@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "web/page/browserdriver.h"
 
 // Emscripten's second names for its functions; its header of them is for OpenGL ES and does not go with gl.h.

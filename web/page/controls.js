@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The bar below the picture, the keys and the touches.
 
 const rest_after = 2500; // milliseconds

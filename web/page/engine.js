@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The show itself, in WebAssembly: see show.cpp.
 
 import createShow from "./show.js";

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files of this folder, and how much of them has come.
 
 /** Says to a viewer why the show cannot play. */

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page: loads the show, opens the doors, and hands over to the player and its controls.
 
 import { Controls } from "./controls.js";

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Plays the show: the picture follows the sound.
 
 export class Player extends EventTarget {

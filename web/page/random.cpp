@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The C library's generator for the browser's show, instead of Emscripten's own.
 
 #include "web/page/additiverandom.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The show as the page's script sees it: functions of plain names, numbers and texts. Times are frames of the show, 60
 // a second: its strobes are made of frames, so every screen shows the same ones.
 

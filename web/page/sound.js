@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The music, and the clock of the show: what is heard now. Where nothing can be heard, the clock goes on alone.
 
 const start_delay = 0.05; // seconds, for the audio thread to be in time

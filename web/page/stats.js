@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ?stats shows: the times between frames, and how far the picture is behind the sound.
 
 const kept = 600; // frames, ten seconds

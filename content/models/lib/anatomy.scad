@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Parts of a woman's body, in heads: one unit is the height of the head, the figure eight of them.
 // Limb profiles are [t, left, right] tables for limb() of figure.scad, looking down a limb from its
 // root; the other parts are drawn in a frame of their own; their comments give its origin and x axis.

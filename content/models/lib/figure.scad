@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Drawing kit for figures: smooth contours, frames that move a part of the body as one piece, and
 // limbs that hang between two joints. Everything is flat, y up, in the units of the model that uses it.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lettering of the show: Bebas Neue Bold, capitals only.
 //
 // The show's picture is 4/3 as wide as it is high on a square view, so what faces the viewer is drawn at 3/4 of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A pistol from the side, muzzle along x, in decimetres of the real thing. The origin lies in the web of
 // the hand that holds it, below the hammer.
 use <figure.scad>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Convex solids by their exact coordinates, and frames made of their edges.
 //
 // A solid is [points, faces]: points around the origin, each face a loop of point numbers, counter-clockwise seen

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tentacles: a spline that ends in a coil, tapering from the root to the tip, with suckers on one side.
 use <figure.scad>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tubes along closed curves: rings, and whatever a path tells.
 
 // A tube with an even polygon as its section. centres: points around the closed path; right, up: unit vectors across

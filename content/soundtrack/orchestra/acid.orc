@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Acid: the resonant sixteenth line. The filter's floor is the shared sweep (gkSweep, 0 closed to 1 open);
 ; an accented note snaps it further. tone: drive.
 ; p7, p8: a slide: the pitch moves to note p7 after p8 seconds, without a new envelope (0: none).

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Arp: a short pulse behind a glassy pluck, thrown from side to side. tone: brightness; a harder note plucks more.
 giArpSide = 0.4 ; where the next note goes
 instr Arp

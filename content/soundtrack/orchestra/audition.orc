@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Every voice alone, for measuring only: soft, hard, hard again, four beats each, without rooms, effects and master.
 ; `render --voices` writes it as 16-bit mono; voices.txt names them in their order.
 

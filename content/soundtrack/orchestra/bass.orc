@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Basses, all mono. A harder note opens the filter further and bites more.
 
 ; Bass: two saws and a square growl through a filter that snaps shut, over a sine with its octave. tone: how far it

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Bell: struck metal: a clapper, six modes that die each at its own pace, a hum below. tone: hardness of the clapper.
 ; A harder stroke wakes more of the upper modes and bends the strike note.
 instr Bell

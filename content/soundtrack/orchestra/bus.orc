@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; The buses between the voices and the master. Every voice ends in one of the outputs below.
 
 ; The faders

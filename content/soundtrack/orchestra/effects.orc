@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; What leads up to a hit, what falls from it, and the picture's small noises.
 
 ; One shard of glass: a few partials of a struck pane. p5 note, tone: place.

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Metal on top: hats, ride, crash, and the small mechanics. No two strokes of a hat are quite alike.
 
 ; Six squares that share no harmonic, the voice of a cymbal. icps: the lowest.

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Hits that the picture makes, in three sizes: Slam for a new scene, Impact for a flash, Knock for a small turn.
 ; A harder one is brighter and falls from higher.
 

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Kick: falls from 180 Hz to its note within a tenth of a second, behind a click.
 ; p5: where it lands, the root of the bar (0: g1). tone: drive, 0 round to 1 broken. A harder stroke clicks more and
 ; bends further.

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Leads: the voices of the theme. Lead asks, Wail answers. A harder note bites and plucks more.
 
 ; Lead: three saws and a square below, bitten by a filter, sliding into the note behind a pluck. tone: bite.

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; The limiter at the end of the master.
 
 ; Peak of one control period, of the samples and of the curve halfway between them (a windowed sinc of six taps;

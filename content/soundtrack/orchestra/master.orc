@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Master: sums the buses, makes the bass mono, shapes, limits, keeps the silences, and writes the file.
 
 ; Gain of the drum bus: the drums themselves, and beside them the same drums pressed flat. What lies far under the

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Pads: one event a note; chords are written as chords. A harder one is brighter.
 
 ; Pad: seven detuned saws, three for each side and one between; the filter breathes at a pace of its own on each side.

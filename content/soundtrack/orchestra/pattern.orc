@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; The pattern language: everything that the score says, it says with `hits`, `play`, `at` and `hush`.
 ;
 ; Time is counted in beats from the first beat of the section that is being written (`section` sets it);

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Claps, snare, toms: everything that answers the kick. A harder stroke is brighter, not only louder.
 
 ; Clap: four hands in 27 ms, the first exactly on the beat, the others never quite alike; under them a body, round them

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Space: what stands round the voices. The echo goes from side to side in three quarters of a beat; claps and snares
 ; have a plate behind a gate, impacts and metal a dark room, the synths a hall. All of it ducks under the kick, and a
 ; hush empties it, so that no tail survives.

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Stabs: chords that strike. A harder one is brighter.
 
 ; Stab: one key plays a whole minor chord moved in parallel (root, third, fifth, octave), distorted as one, behind

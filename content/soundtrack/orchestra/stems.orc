@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Stems, for measuring only: the sustained voices and the buses in mono, as they meet before the soft clip.
 ; `render --stems` writes them as 16-bit channels in the order of their names in stems.txt.
 

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Credits, 24 beats: the long flickers at 0, 8 and 16, and between them the dancers swap on stabs. Broken beat.
 instr Credits
   section p4, -0.5

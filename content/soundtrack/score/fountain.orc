@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Fountain, 64 beats: the climax, four rounds of sixteen that share nothing but the theme. Every four beats four
 ; flashes, a fifth of a beat apart.
 

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Greets, 32 beats: a name every two beats for sixteen, then the shaft is empty. The theme thins out to one bell
 ; and ends on the show's last beat; the tail is the room's.
 instr Greets

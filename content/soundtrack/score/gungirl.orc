@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Gun Girl, 48 beats: the pieces close in for 4, she stands; at 8 the camera jumps and the groove starts;
 ; the background turns at 16, 24, 32 and 40, and something joins each time.
 

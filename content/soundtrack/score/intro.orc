@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Intro, 16 beats: a word a beat, a flash a quarter beat after each, nothing between. Glass at 12.25, again at 14.
 instr Intro
   section p4, -0.5

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Plasma, 32 beats: the title. The beat is gone; a choir sings the theme at half speed in its second dress.
 ; The last eight beats draw the floor away, the very last is nothing.
 instr Plasma

@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Swapper, 96 beats: six shapes of 16 beats. Four beats of gathering, a flash, the whole shape, then its debris.
 ; Each shape has a bass line and a colour of its own.
 

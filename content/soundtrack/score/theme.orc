@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; What the sections share: G minor, one theme of four bars, its chords and its roots.
 ; A A' A B. The hook A is one bar in three-three-two: a fifth up, a half step on, and back; A' climbs instead of
 ; falling; B is new and closes from a flat to f sharp, round the tonic.

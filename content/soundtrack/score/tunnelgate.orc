@@ -1,3 +1,4 @@
+; SPDX-License-Identifier: MIT
 ; Tunnelgate, 72 beats: a blow on every beat, and one resonant line whose filter opens all the way through.
 ; It climbs: 24 beats on g, 16 on b flat, 16 on c, 16 on d, and the title falls from there.
 

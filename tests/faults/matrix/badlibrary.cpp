@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loaded before the libraries of sound and OpenGL, has one of their calls go wrong: BAD_CALL names it, BAD_WAY is how:
 // "hangs", "fails", "crashes", "aborts". BAD_FROM says how many calls are well before.
 

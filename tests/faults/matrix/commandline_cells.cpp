@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Options and settings that are wrong: told before anything is opened, whatever comes before and behind them.
 
 #include "tests/faults/matrix/commands.h"

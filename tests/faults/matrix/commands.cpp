@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/matrix/commands.h"
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every file of data/, and every way in which it can be wrong: named before a window opens, and by the recorder.
 
 #include "tests/faults/datafiles.h"

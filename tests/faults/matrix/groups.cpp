@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/matrix/matrix.h"
 
 std::vector<faults::Group> faults::all_groups() {

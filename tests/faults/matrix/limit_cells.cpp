@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Too few files, too little memory or stack, too few threads: told before anything is opened.
 
 #include "tests/faults/matrix/commands.h"

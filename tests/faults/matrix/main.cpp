@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tries every fault of the matrix, or those of some groups, and tells cells tried and failed by group.
 //
 //     faults_matrix [--list] [GROUP...]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Model and mesh files that are wrong, in every command of the mesh tool.
 
 #include "tests/faults/matrix/toolbox.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tools' standard streams: closed, full, or read by nobody.
 
 #include "tests/faults/matrix/toolbox.h"

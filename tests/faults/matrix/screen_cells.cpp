@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Displays that cannot show it, and drivers that cannot draw it.
 
 #include "tests/faults/matrix/commands.h"

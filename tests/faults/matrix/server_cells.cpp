@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // X servers that die, stop or never answer.
 
 #include "tests/faults/matrix/commands.h"

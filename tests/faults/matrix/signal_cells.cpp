@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Signals that ask the show to end, in each of its kinds; and those that do not.
 
 #include "tests/faults/matrix/commands.h"

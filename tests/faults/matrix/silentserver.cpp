@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/matrix/silentserver.h"
 
 #include <array>

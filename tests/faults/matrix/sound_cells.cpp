@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sound that cannot be had, does not answer, or fails in mid-show: the picture comes, and the end too.
 
 #include "tests/faults/matrix/commands.h"

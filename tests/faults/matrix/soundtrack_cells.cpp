@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A soundtrack that is none: the show plays, and tells of it on standard output.
 
 #include "tests/faults/matrix/commands.h"

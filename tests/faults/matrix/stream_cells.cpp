@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Standard streams that are closed, full, or read by nobody.
 
 #include "tests/faults/matrix/commands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tools' options, drivers and resources.
 
 #include "tests/faults/matrix/toolbox.h"

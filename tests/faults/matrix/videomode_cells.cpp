@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The desktop's video mode, after the show has switched it and ended in every way there is.
 
 #include "tests/faults/matrix/commands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every program that writes a file, and everything that can stand in its way: an error line, the old file as it was,
 // and nothing half-made beside it.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/arguments/arguments.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/asc/apart.h"
 #include "tools/asc/packing.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The mesh tool's reader and writer of mesh files.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The mesh tool as a program: its commands, its messages and its exit status.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the mesh tool does to a mesh, and what it finds wrong with one.
 
 #include "tools/asc/check.h"

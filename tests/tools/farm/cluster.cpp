@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/tools/farm/cluster.h"
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where chunks are drawn, and how they become films of other formats.
 
 #include "tests/tools/farm/farmland.h"

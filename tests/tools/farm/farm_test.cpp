@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Farms as they should go: what they join is what the recorder makes in one go.
 
 #include "tests/tools/farm/farmland.h"

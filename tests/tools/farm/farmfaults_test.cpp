@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Farms that something happens to: nothing is lost, and nothing wrong is joined.
 
 #include "tests/tools/farm/farmland.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/tools/farm/farmland.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Farms on a real Slurm, which the test starts.
 
 #include "tests/tools/farm/cluster.h"

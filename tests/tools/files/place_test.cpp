@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program that puts built files into the source tree.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/files/png.h"
 
 #include "tests/support/images.h"

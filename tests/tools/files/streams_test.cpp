@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/files/streams.h"
 
 #include "runtime/streams.h"

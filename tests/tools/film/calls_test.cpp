@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calls of the frames that the recorder draws, beside the program's.
 
 #include "runtime/frame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the recorder writes of films, and its messages.
 
 #include "tests/support/process.h"

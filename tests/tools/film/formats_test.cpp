@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Films of every kind, and in parts: what takes longer.
 
 #include "tests/tools/film/filmtest.h"

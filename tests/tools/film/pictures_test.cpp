@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is done to pictures between the driver and the film.
 
 #include "tools/film/canvas.h"

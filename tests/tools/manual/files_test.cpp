@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The manual pages and completion scripts as they are installed.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/tools/record/readoptions.h"
 
 #include <gmock/gmock.h>

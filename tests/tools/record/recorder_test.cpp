@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The recorder as a program: what it writes, its messages and its exit status.
 
 #include "tests/show/scores.h"

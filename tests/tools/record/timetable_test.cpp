@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/record/timetable.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the release's commands refuse before they begin.
 
 #include "tests/support/command.h"

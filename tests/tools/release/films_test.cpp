@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Presets of films, with a stand-in for the recorder.
 
 #include "tests/support/command.h"

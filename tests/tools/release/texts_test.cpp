@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts of a release, and its bill of materials.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page in a real browser.
 //
 // usage: node --test page.test.mjs, with

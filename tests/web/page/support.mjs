@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A browser, and a server on loopback that can break what it serves.
 
 import { spawn } from "node:child_process";
