@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show/show.h"
 
 #include <algorithm>

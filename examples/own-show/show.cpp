@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A show of one's own: two scenes of eight beats, a mesh and a piece of music.
 
 #include "show/show.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/window/xscreen.h"
 
 #include <chrono>

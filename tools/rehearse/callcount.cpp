@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/callcount.h"
 
 #include <GL/gl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/filewatch.h"
 
 #include <sys/inotify.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/keys.h"
 
 #include "tools/rehearse/desk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/music.h"
 
 #include "tools/record/beats.h"

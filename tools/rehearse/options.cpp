@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/options.h"
 
 #include "tools/arguments/arguments.h"

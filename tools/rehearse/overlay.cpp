@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/overlay.h"
 
 #include <GL/gl.h>

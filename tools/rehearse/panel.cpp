@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/panel.h"
 
 #include "tools/rehearse/keys.h"

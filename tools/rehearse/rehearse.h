@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// The program hardsilence-rehearse, for the show that it is linked with.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/timeline/waveform.h"
 
 #include "kore/soundtrackfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/filewatch.h"
 
 #include "tests/support/temp.h"

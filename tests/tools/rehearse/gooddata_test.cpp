@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/rehearse/gooddata.h"
 
 #include "show/datacheck.h"

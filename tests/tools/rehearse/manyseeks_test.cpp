@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Meant for the build with sanitizers.
 
 #include "show/show.h"

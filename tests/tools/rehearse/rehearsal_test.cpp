@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a rehearsal draws is what the recorder draws, in whatever order the frames are asked for.
 
 #include "tools/rehearse/rehearsal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The music of a rehearsal, on OpenAL's null output, which keeps the time.
 
 #include "tools/rehearse/music.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Seeking without drawing: the logic alone.
 
 #include "tests/show/scores.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rehearsal in its window, with real keys and a real mouse.
 
 #include "tests/support/command.h"

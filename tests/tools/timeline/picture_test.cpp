@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // docs/timeline.svg: it is what the recorder makes of the show now.
 
 #include "tests/support/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/timeline/timeline.h"
 
 #include "runtime/beatclock.h"

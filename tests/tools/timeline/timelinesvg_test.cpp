@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/timeline/timelinesvg.h"
 
 #include <gmock/gmock.h>
