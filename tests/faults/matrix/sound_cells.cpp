@@ -76,8 +76,9 @@ void add_failing_device(std::vector<Cell>& cells) {
                                  joined(kind.environment,
                                         {"ALSOFT_DRIVERS=alsa", "ALSA_CONFIG_PATH=" + temp.Write("conf", settings)});
                              char const* const line = "The sound device fails: ";
+                             // The third line: busy with its failures, it may not let go in time at the end.
                              return play_complaint({.arguments = small_show(kind.options), .environment = environment},
-                                                   {.most_lines = is_mute(kind) ? 1 : 2,
+                                                   {.most_lines = is_mute(kind) ? 1 : 3,
                                                     .says = is_mute(kind) ? "" : line,
                                                     .time = std::chrono::milliseconds(1000)});
                          }});
