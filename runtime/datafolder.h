@@ -10,4 +10,4 @@
 /// @param share       installed share folder; "" for none
 /// @param first_file  in "data/"
 /// @return "" if it was found; else a line that names the places tried, and the working directory stays as it is
-std::string enter_data_folder(std::string const& share, std::string const& first_file = "weknow.asc");
+std::string enter_data_folder(std::string const& share, std::string const& first_file);

@@ -85,25 +85,26 @@ protected:
     ~DataFolder() override { fs::current_path(HARDSILENCE_SOURCE_DIR); }
 
     support::TempFolder const temp;
+    std::string const file = "first.asc";
 };
 
 TEST_F(DataFolder, IsTheShareFolderIfThereIsNoneElseButOneOfAnotherProject) {
     fs::create_directories(temp.Path("share/data"));
-    static_cast<void>(temp.Write("share/data/weknow.asc", ""));
+    static_cast<void>(temp.Write("share/data/first.asc", ""));
     fs::create_directories(temp.Path("work/data"));
     static_cast<void>(temp.Write("work/data/other.asc", ""));
     fs::current_path(temp.Path("work"));
-    EXPECT_EQ(enter_data_folder(temp.Path("share")), "");
+    EXPECT_EQ(enter_data_folder(temp.Path("share"), file), "");
     EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("share")));
 }
 
 TEST_F(DataFolder, IsLeftWhereItIsIfThereIsNone) {
     fs::current_path(temp.Path(""));
-    EXPECT_NE(enter_data_folder(""), "");
-    EXPECT_NE(enter_data_folder(temp.Path("nowhere")), "");
+    EXPECT_NE(enter_data_folder("", file), "");
+    EXPECT_NE(enter_data_folder(temp.Path("nowhere"), file), "");
     EXPECT_TRUE(fs::equivalent(fs::current_path(), temp.Path("")));
     temp.Write("data", "a file and no folder");
-    EXPECT_NE(enter_data_folder(""), "");
+    EXPECT_NE(enter_data_folder("", file), "");
 }
 
 } // namespace
