@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/command.h"
+#include "tests/support/temp.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
-#include <sstream>
+#include <utility>
 
 using testing::HasSubstr;
 
@@ -13,20 +14,37 @@ constexpr char const* metainfo = "tools/desktop/org.hardsilence.hardsilence.meta
 constexpr char const* entry = "tools/desktop/hardsilence.desktop";
 
 std::string read(std::string const& path) {
-    std::ifstream file(path);
-    std::ostringstream text;
-    text << file.rdbuf();
-    EXPECT_TRUE(file) << path;
-    return text.str();
+    std::string const text = support::read_all(path);
+    EXPECT_NE(text, "") << path;
+    return text;
+}
+
+/// Width and height, as the header has them.
+std::pair<int, int> size_of_png(std::string const& path) {
+    std::string const png = read(path);
+    if (png.size() < 24) return {0, 0};
+    auto const number = [&](std::size_t at) { // four bytes, the highest first
+        return static_cast<unsigned char>(png[at + 2]) * 256 + static_cast<unsigned char>(png[at + 3]);
+    };
+    return {number(16), number(20)};
+}
+
+void expect_valid(std::string const& page) {
+    support::Outcome const shop = support::run({"appstreamcli", "validate", "--no-net", "--pedantic", page});
+    EXPECT_EQ(shop.status, 0);
+    EXPECT_THAT(shop.output, HasSubstr("Validation was successful.")) << shop.output; // with a colon, it has remarks
+}
+
+/// Writes the page as it is installed.
+support::Outcome make_page(std::string const& address, std::string const& to) {
+    return support::run({"cmake", "-DADDRESS=" + address, "-DTO=" + to, "-P", "tools/desktop/metainfo.cmake"});
 }
 
 TEST(DesktopFiles, PleaseTheProgramsThatReadThem) {
     support::Outcome const menu = support::run({"desktop-file-validate", entry});
     EXPECT_EQ(menu.status, 0);
     EXPECT_EQ(menu.output + menu.error, "");
-    support::Outcome const shop = support::run({"appstreamcli", "validate", "--no-net", "--pedantic", metainfo});
-    EXPECT_EQ(shop.status, 0);
-    EXPECT_THAT(shop.output, HasSubstr("Validation was successful.")) << shop.output; // with a colon, it has remarks
+    expect_valid(metainfo);
 }
 
 TEST(DesktopFiles, WarnOfTheStrobesAndTellHowToWatchWithout) {
@@ -39,13 +57,7 @@ TEST(DesktopFiles, WarnOfTheStrobesAndTellHowToWatchWithout) {
 TEST(DesktopFiles, NameAnIconThatIsInstalledInEverySize) {
     EXPECT_THAT(read(entry), HasSubstr("\nIcon=hardsilence\n"));
     for (int const size : {16, 32, 48, 64, 128, 256}) {
-        std::string const png = read("tools/desktop/icons/" + std::to_string(size) + ".png");
-        ASSERT_GT(png.size(), 24u);
-        auto const number = [&](std::size_t at) { // four bytes, the highest first
-            return static_cast<unsigned char>(png[at + 2]) * 256 + static_cast<unsigned char>(png[at + 3]);
-        };
-        EXPECT_EQ(number(16), size); // width and height, in the header
-        EXPECT_EQ(number(20), size);
+        EXPECT_EQ(size_of_png("tools/desktop/icons/" + std::to_string(size) + ".png"), std::pair(size, size));
     }
 }
 
@@ -58,6 +70,32 @@ TEST(DesktopFiles, HaveTheIconThatTheModelMakes) {
 
 TEST(DesktopFiles, NameTheVersion) {
     EXPECT_THAT(read(metainfo), HasSubstr("<release version=\"" HARDSILENCE_VERSION "\""));
+}
+
+/// After a change of the show: cmake --build build-dev --target pictures
+TEST(SoftwareCentres, ShowPicturesFromTheAddressOfTheRelease) {
+    support::TempFolder const folder;
+    std::string const page = folder.Path("page.metainfo.xml");
+    ASSERT_EQ(make_page("https://demos.example.org/show/", page).status, 0);
+    expect_valid(page);
+    std::ifstream table("tools/desktop/pictures.txt");
+    int pictures = 0;
+    for (std::string beat, caption; table >> beat && std::getline(table >> std::ws, caption); ++pictures) {
+        EXPECT_THAT(read(page), HasSubstr("<caption>" + caption + "</caption>"));
+        std::string const name = "pictures/beat_" + beat + ".png";
+        EXPECT_THAT(read(page), HasSubstr(">https://demos.example.org/show/" + name + "</image>"));
+        EXPECT_EQ(size_of_png("tools/desktop/" + name), std::pair(1024, 768));
+    }
+    EXPECT_GE(pictures, 3);
+}
+
+TEST(SoftwareCentres, ShowNoPicturesWithoutAnAddress) {
+    support::TempFolder const folder;
+    std::string const page = folder.Path("page.metainfo.xml");
+    ASSERT_EQ(make_page("", page).status, 0);
+    EXPECT_EQ(read(page), read(metainfo));
+    EXPECT_NE(make_page("somewhere", page).status, 0);
+    EXPECT_NE(make_page("https://a.b/\"><script>", page).status, 0);
 }
 
 } // namespace

@@ -21,6 +21,7 @@ void expect_refusal(std::vector<std::string> const& command, std::string const& 
 TEST(Release, RefusesWhatItDoesNotKnow) {
     expect_refusal({"tools/release", "--fast"}, "unknown option '--fast'; see --help");
     expect_refusal({"tools/release", "--suite"}, "--suite requires a value; see --help");
+    expect_refusal({"tools/release", "--address"}, "--address requires a value; see --help");
 }
 
 TEST(Release, NeverReplacesAFolderThatIsNoRelease) {
