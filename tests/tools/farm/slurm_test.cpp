@@ -73,11 +73,14 @@ TEST_F(FarmOnSlurm, LosesNothingWithANode) {
 }
 
 TEST_F(FarmOnSlurm, AFarmThatIsStoppedTakesItsJobsAlong) {
+    // The third chunk would wait on without it.
+    Fault(R"sh(case "$part" in *00002*) ! once waits || sleep 600 ;; esac)sh");
     auto const farm = Start(film);
     ASSERT_TRUE(Comes("film.mkv.farm/00000.sum"));
+    ASSERT_TRUE(Comes("once-waits"));
     farm->Signal(SIGTERM);
     EXPECT_EQ(farm->Wait(20s), 143);
-    for (int tries = 0; cluster.Ask("squeue --noheader") != "" && tries < 200; ++tries)
+    for (int tries = 0; cluster.Ask("squeue --noheader") != "" && tries < 400; ++tries)
         std::this_thread::sleep_for(50ms);
     EXPECT_EQ(cluster.Ask("squeue --noheader"), "");
     Drawn();
