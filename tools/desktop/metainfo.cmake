@@ -14,9 +14,9 @@ if(ADDRESS)
     set(type " type=\"default\"") # of the first one
     foreach(line IN LISTS lines)
         string(REGEX MATCH "^([0-9.]+) (.+)$" found "${line}")
+        set(file ${ADDRESS}/pictures/beat_${CMAKE_MATCH_1}.png)
         string(APPEND pictures "    <screenshot${type}>\n      <caption>${CMAKE_MATCH_2}</caption>\n"
-                               "      <image width=\"1024\" height=\"768\">${ADDRESS}/pictures/beat_${CMAKE_MATCH_1}.png"
-                               "</image>\n    </screenshot>\n")
+                               "      <image width=\"1024\" height=\"768\">${file}</image>\n    </screenshot>\n")
         set(type)
     endforeach()
     string(REPLACE "  <launchable" "  <url type=\"homepage\">${ADDRESS}/</url>\n\

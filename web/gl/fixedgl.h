@@ -16,8 +16,9 @@
 /// of a display list act as if issued where it is called, between glBegin and glEnd too.
 ///
 /// What is drawn is gathered: primitives and short lists are transformed here and drawn with one call, a list of more
-/// than 32 elements waits in a buffer of the driver and takes a call of its own. Lines are drawn as rectangles, so that
-/// they keep their place among the triangles and have their width everywhere; see Drawing.
+/// than 32 elements waits in a buffer of the driver and takes a call of its own. Such a buffer is deleted at the end of
+/// the frame in which its list was, unless an equal list has been made by then, which takes it over. Lines are drawn as
+/// rectangles, so that they keep their place among the triangles and have their width everywhere; see Drawing.
 ///
 /// There is one context, used by one thread. Within a frame nothing is allocated once the lists are compiled and the
 /// longest primitive has been seen. Other calls to the driver must leave its program, its buffers, its vertex arrays

@@ -60,7 +60,9 @@ void Compiler::End() {
     std::size_t const count = list.corners.size() - pending.first;
     Primitive p{pending.mode, pending.first, count, pending.refused, {}};
     if (elements_of(p.mode, count) >= long_elements) {
-        p.mesh = state.drawing.Keep(p.mode, {list.corners.data() + p.first, count});
+        std::span<Corner const> const corners(list.corners.data() + p.first, count);
+        p.mesh = state.shelf.Take(p.mode, corners);
+        if (!p.mesh.array) p.mesh = state.drawing.Keep(p.mode, corners);
     }
     list.commands.push_back({primitive, {static_cast<double>(list.primitives.size())}});
     list.primitives.push_back(p);

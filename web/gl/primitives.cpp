@@ -48,7 +48,10 @@ void grow() {
 List* find(GLuint name) { return name != 0 && name < state.lists.size() ? &state.lists[name] : nullptr; }
 
 void erase(List& list) {
-    for (Primitive& primitive : list.primitives) state.drawing.Delete(primitive.mesh);
+    for (Primitive const& primitive : list.primitives) {
+        if (!primitive.mesh.array) continue;
+        state.shelf.Put(primitive.mode, {list.corners.data() + primitive.first, primitive.count}, primitive.mesh);
+    }
     list = {};
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "web/gl/lists.h"
+#include "web/gl/shelf.h"
 
 #include <array>
 
@@ -52,6 +53,7 @@ struct State {
     Compiler* compiler = nullptr; ///< null while no list is compiled
     GLuint compiling = 0;         ///< name of the list
     int nesting = 0;
+    Shelf shelf;
 
     Attributes attributes;
     std::vector<Attributes> attribute_stack;

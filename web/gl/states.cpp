@@ -82,12 +82,16 @@ bool open(Driver const& driver, Lines lines) {
 
 void scale_lines(float factor) { state.drawing.ScaleLines(factor); }
 
-void flush() { state.drawing.Flush(); }
+void flush() {
+    state.drawing.Flush();
+    state.shelf.Clear(state.drawing);
+}
 
 void close() {
     for (List& list : state.lists) {
         for (Primitive& primitive : list.primitives) state.drawing.Delete(primitive.mesh);
     }
+    state.shelf.Clear(state.drawing);
     delete_textures();
     state.drawing.Close();
     reset();
