@@ -58,6 +58,12 @@ Words joined(Words first, Words const& second) {
     return first;
 }
 
+Words bad_library(std::string const& call, std::string const& way) {
+    // LD_PRELOAD is split at spaces, which the folder may have; that of the folders is not.
+    return {"LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY, "LD_LIBRARY_PATH=" HARDSILENCE_BAD_LIBRARY_FOLDER,
+            "BAD_CALL=" + call, "BAD_WAY=" + way};
+}
+
 int lines_of(std::string const& text) {
     auto const ends = std::count(text.begin(), text.end(), '\n');
     return static_cast<int>(ends) + (!text.empty() && text.back() != '\n' ? 1 : 0);

@@ -16,6 +16,10 @@ using Words = std::vector<std::string>;
 /// @return the first and then the second
 Words joined(Words first, Words const& second);
 
+/// The environment in which one call of a library goes wrong; see badlibrary.cpp.
+/// @param way  "fails", "hangs", "crashes" or "aborts"
+Words bad_library(std::string const& call, std::string const& way);
+
 /// A way to start the show.
 struct Kind {
     char const* name;

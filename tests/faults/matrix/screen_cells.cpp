@@ -93,9 +93,7 @@ void add_bad_calls(std::vector<Cell>& cells) {
                                                       : "it crashed.";
             auto const within = at_once + (way == "hangs" ? time_for_an_answer : std::chrono::milliseconds(0));
             cells.push_back({call + ' ' + way, [call, way, says, within] {
-                                 Words const environment = {"DISPLAY=" + own_display(),
-                                                            "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY, "BAD_CALL=" + call,
-                                                            "BAD_WAY=" + way};
+                                 Words const environment = joined({"DISPLAY=" + own_display()}, bad_library(call, way));
                                  return end_complaint({.arguments = small_show(), .environment = environment},
                                                       {.says = says, .within = within});
                              }});

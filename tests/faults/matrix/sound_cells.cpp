@@ -96,8 +96,7 @@ void add_bad_calls(std::vector<Cell>& cells) {
         for (std::string const way : {"hangs", "fails"}) {
             for (Kind const& kind : kinds) {
                 Words const environment =
-                    joined(kind.environment, {"ALSOFT_DRIVERS=null", "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY,
-                                              "BAD_CALL=" + call, "BAD_WAY=" + way});
+                    joined(joined(kind.environment, {"ALSOFT_DRIVERS=null"}), bad_library(call, way));
                 // One line where the show is silent, one where the end has to do without an answer.
                 cells.push_back(plays(call + ' ' + way + ", " + kind.name,
                                       {.arguments = small_show(kind.options), .environment = environment},
@@ -107,19 +106,16 @@ void add_bad_calls(std::vector<Cell>& cells) {
     }
     // Once when the device is looked for, and then at the end.
     for (Kind const& kind : kinds) {
-        Words const environment =
-            joined(kind.environment, {"ALSOFT_DRIVERS=null", "LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY,
-                                      "BAD_CALL=alcCloseDevice", "BAD_WAY=hangs", "BAD_FROM=1"});
+        Words const environment = joined(joined(kind.environment, {"ALSOFT_DRIVERS=null", "BAD_FROM=1"}),
+                                         bad_library("alcCloseDevice", "hangs"));
         cells.push_back(plays(std::string("alcCloseDevice hangs at the end, ") + kind.name,
                               {.arguments = small_show(kind.options), .environment = environment},
                               {.most_lines = is_mute(kind) ? 1 : 2, .says = is_mute(kind) ? "" : "did not answer"}));
     }
     // Without music nothing of the library is called.
     for (std::string const way : {"aborts", "crashes"}) {
-        cells.push_back(plays(
-            "alcOpenDevice " + way + ", mute",
-            {.arguments = small_show(),
-             .environment = {"LD_PRELOAD=" HARDSILENCE_BAD_LIBRARY, "BAD_CALL=alcOpenDevice", "BAD_WAY=" + way}}));
+        cells.push_back(plays("alcOpenDevice " + way + ", mute",
+                              {.arguments = small_show(), .environment = bad_library("alcOpenDevice", way)}));
     }
 }
 

@@ -39,8 +39,8 @@ protected:
 
 TEST_P(ManualFiles, PleaseTheProgramsThatReadThem) {
     // "referenced manual not found" is about what is installed here, and an operating system of our own is meant.
-    std::string const lint = "mandoc -Tlint -Wstyle " + Path(GetParam()) +
-                             " | grep -v -e 'referenced manual not found' -e 'operating system explicitly specified'";
+    std::string const lint = "mandoc -Tlint -Wstyle '" + Path(GetParam()) +
+                             "' | grep -v -e 'referenced manual not found' -e 'operating system explicitly specified'";
     EXPECT_EQ(support::run_shell(lint).output, "");
     Pleases({"bash", "-n"}, Program() + ".bash");
     Pleases({"zsh", "-n"}, "_" + Program());
