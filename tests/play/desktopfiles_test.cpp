@@ -96,6 +96,7 @@ TEST(SoftwareCentres, ShowNoPicturesWithoutAnAddress) {
     EXPECT_EQ(read(page), read(metainfo));
     EXPECT_NE(make_page("somewhere", page).status, 0);
     EXPECT_NE(make_page("https://a.b/\"><script>", page).status, 0);
+    EXPECT_NE(make_page("https://a.b/`id`", page).status, 0);
 }
 
 } // namespace

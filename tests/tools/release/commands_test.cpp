@@ -22,6 +22,7 @@ TEST(Release, RefusesWhatItDoesNotKnow) {
     expect_refusal({"tools/release", "--fast"}, "unknown option '--fast'; see --help");
     expect_refusal({"tools/release", "--suite"}, "--suite requires a value; see --help");
     expect_refusal({"tools/release", "--address"}, "--address requires a value; see --help");
+    expect_refusal({"tools/release", "--address", "home"}, "'home' is no web address");
 }
 
 TEST(Release, NeverReplacesAFolderThatIsNoRelease) {
