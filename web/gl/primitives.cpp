@@ -121,7 +121,6 @@ GLuint glGenLists(GLsizei range) {
 void glDeleteLists(GLuint first, GLsizei range) {
     if (refused()) return;
     if (range < 0) return raise(GL_INVALID_VALUE);
-    state.drawing.Flush();
     std::size_t const end = std::min(state.lists.size(), std::size_t{first} + static_cast<std::size_t>(range));
     for (std::size_t i = first; i < end; ++i) erase(state.lists[i]);
     // So that glGenLists finds the names again.
